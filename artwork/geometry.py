@@ -32,12 +32,23 @@ def _clip(operation, subject, other):
             except pyclipper.ClipperException:
                 continue    # a polygon without an area
     solution = clipper.Execute(operation, pyclipper.PFT_NONZERO, pyclipper.PFT_NONZERO)
-    return [[(x / CLIPPER_UNIT, y / CLIPPER_UNIT) for x, y in polygon] for polygon in solution]
+    return _from_clipper(solution)
+
+
+def grown(ink, amount):
+    """The ink with its edges moved outwards by amount, corners rounded."""
+    offset = pyclipper.PyclipperOffset(arc_tolerance=CLIPPER_UNIT / 100)
+    offset.AddPaths([_to_clipper(polygon) for polygon in ink],
+                    pyclipper.JT_ROUND, pyclipper.ET_CLOSEDPOLYGON)
+    return _from_clipper(offset.Execute(amount * CLIPPER_UNIT))
 
 
 def _to_clipper(polygon):
-    points = [(round(x * CLIPPER_UNIT), round(y * CLIPPER_UNIT)) for x, y in polygon]
-    return points
+    return [(round(x * CLIPPER_UNIT), round(y * CLIPPER_UNIT)) for x, y in polygon]
+
+
+def _from_clipper(polygons):
+    return [[(x / CLIPPER_UNIT, y / CLIPPER_UNIT) for x, y in polygon] for polygon in polygons]
 
 
 def bounds(polygons):

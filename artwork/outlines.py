@@ -9,7 +9,7 @@ from pathlib import Path
 
 import geometry
 
-PIECES = ("stroke", "outline", "ellipse", "box", "use")
+PIECES = ("stroke", "outline", "ellipse", "box", "use", "bold")
 POINT_COUNTS = {"stroke": (3,), "outline": (2, 6)}
 
 
@@ -78,6 +78,9 @@ class Drawings:
         numbers = [float(word) for word in piece.words if _is_number(word)]
         if piece.kind == "use":
             return geometry.placed(self.contours(piece.words[0]), *numbers)
+        if piece.kind == "bold":
+            ink = geometry.placed(self.contours(piece.words[1]), *numbers[1:])
+            return geometry.grown(ink, numbers[0])
         if piece.kind == "ellipse":
             return [geometry.ellipse(*numbers)]
         if piece.kind == "box":
