@@ -21,6 +21,6 @@ void CommandReader::readInput()
     for (qsizetype end = m_pending.indexOf('\n'); end >= 0; end = m_pending.indexOf('\n')) {
         const QByteArray line = m_pending.first(end);
         m_pending.remove(0, end + 1);
-        emit lineRead(line);
+        Q_EMIT lineRead(line);
     }
 }

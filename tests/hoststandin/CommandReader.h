@@ -12,7 +12,7 @@ class CommandReader : public QObject
 public:
     explicit CommandReader(QObject *parent = nullptr);
 
-signals:
+Q_SIGNALS:
     void lineRead(const QByteArray &line);
 
 private:

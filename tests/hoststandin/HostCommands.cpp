@@ -3,7 +3,8 @@
 #include "EventLog.h"
 #include "HostServer.h"
 
-namespace {
+namespace
+{
 
 const QByteArray toProgram = QByteArrayLiteral("tw2tonquill ");
 
@@ -39,7 +40,7 @@ void HostCommands::run(const QByteArray &line)
     else if (command == "close")
         m_server.closeConnection();
     else if (command == "quit")
-        emit quitRequested();
+        Q_EMIT quitRequested();
     else
         logError(QStringLiteral("no such command: ") + QString::fromLocal8Bit(line));
 }

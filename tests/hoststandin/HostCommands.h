@@ -32,7 +32,7 @@ public:
     /** Sends the file's contents, with the mark of a message to the program in front. */
     void sendDocument(const QString &fileName);
 
-signals:
+Q_SIGNALS:
     void quitRequested();
 
 private:

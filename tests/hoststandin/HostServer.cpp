@@ -2,7 +2,8 @@
 
 #include <QLocalSocket>
 
-namespace {
+namespace
+{
 
 constexpr int answerTimeoutMs = 1000;
 
@@ -94,9 +95,9 @@ void HostServer::acceptConnections()
         connect(socket, &QLocalSocket::disconnected, this, [this, connection] {
             read(connection);
             m_sockets.take(connection)->deleteLater();
-            emit disconnected(connection);
+            Q_EMIT disconnected(connection);
         });
-        emit connected(connection);
+        Q_EMIT connected(connection);
         read(connection);
     }
 }
@@ -108,7 +109,7 @@ void HostServer::read(int connection)
         return;
     const QByteArray bytes = socket->readAll();
     if (!bytes.isEmpty())
-        emit received(connection, bytes);
+        Q_EMIT received(connection, bytes);
 }
 
 QLocalSocket *HostServer::latest() const

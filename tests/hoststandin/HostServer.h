@@ -36,7 +36,7 @@ public:
     /** Ends the connection that is sent to; the server goes on listening. */
     void closeConnection();
 
-signals:
+Q_SIGNALS:
     void connected(int connection);
     void received(int connection, const QByteArray &bytes);
     void disconnected(int connection);

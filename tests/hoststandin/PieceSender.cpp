@@ -27,5 +27,5 @@ void PieceSender::sendPiece()
     if (sent && m_sent < m_bytes.size())
         return;
     m_timer.stop();
-    emit finished(m_sent);
+    Q_EMIT finished(m_sent);
 }

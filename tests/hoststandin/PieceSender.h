@@ -17,7 +17,7 @@ public:
     /** Starts sending; what is left of an earlier call is dropped. */
     void start(const QByteArray &bytes, int pieceSize, int pauseMs);
 
-signals:
+Q_SIGNALS:
     /** All of it is sent, or the connection ended after this many bytes. */
     void finished(qsizetype length);
 

@@ -7,7 +7,8 @@
 #include <QCoreApplication>
 #include <QTextStream>
 
-namespace {
+namespace
+{
 
 int fail(const QString &text)
 {
