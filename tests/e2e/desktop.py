@@ -1,0 +1,143 @@
+"""A desktop of its own for a test: virtual screen, window manager, windows and pointer."""
+
+import os
+
+from picture import Picture
+from workbench import Workbench, tool, wait_until
+
+LEFT, MIDDLE, RIGHT = 1, 2, 3
+
+
+class Desktop(Workbench):
+    """A workbench with an X server on a free display and a window manager on that."""
+
+    def __init__(self, width=1280, height=1024):
+        super().__init__()
+        self.size = (width, height)
+
+    def _open(self):
+        self._start_screen()
+        self._start_window_manager()
+
+    def _start_screen(self):
+        screen_folder = self.folder / "screen"
+        screen_folder.mkdir()
+        reading, writing = os.pipe()
+        width, height = self.size
+        self.start(
+            [tool("Xvfb"), "-displayfd", str(writing)]
+            + ["-screen", "0", f"{width}x{height}x24", "-fbdir", str(screen_folder)]
+            + ["-nolisten", "tcp", "-nocursor", "-noreset"],
+            log="screen.log",
+            pass_fds=(writing,),
+        )
+        os.close(writing)
+        with os.fdopen(reading) as pipe:
+            number = pipe.readline().strip()
+        if not number:
+            raise RuntimeError("no X server:\n" + self.log("screen.log"))
+        self._framebuffer = screen_folder / "Xvfb_screen0"
+        self.environment |= {"DISPLAY": f":{number}", "QT_QPA_PLATFORM": "xcb"}
+
+    def _start_window_manager(self):
+        manager = self.start([tool("openbox"), "--sm-disable"], log="windowmanager.log")
+
+        def ready():
+            if manager.poll() is not None:
+                raise RuntimeError("no window manager:\n" + self.log("windowmanager.log"))
+            return self.xdotool("get_num_desktops", check=False).returncode == 0
+
+        wait_until(ready, "the window manager is ready")
+
+    def xdotool(self, *arguments, check=True):
+        return self.run([tool("xdotool"), *map(str, arguments)], check)
+
+    def window(self, process, name):
+        """Waits until the process's window of this name, a regular expression, has the keyboard."""
+
+        def find():
+            if process.poll() is not None:
+                raise RuntimeError(f"{process.args[0]} has ended ({process.returncode})")
+            wanted = ["--onlyvisible", "--all", "--pid", process.pid, "--name", name]
+            found = self.xdotool("search", *wanted, check=False).stdout.split()
+            return found and self.active_window() in found and self.active_window()
+
+        return Window(self, wait_until(find, f"window {name} shows and has the keyboard"))
+
+    def active_window(self):
+        return self.xdotool("getactivewindow", check=False).stdout.strip()
+
+    def picture(self):
+        """What the screen shows now; the pointer is not in it."""
+        return Picture.from_framebuffer(self._framebuffer)
+
+    def move(self, x, y):
+        """Puts the pointer on this point of the screen."""
+        self.xdotool("mousemove", x, y)
+
+    def pointer(self):
+        """Where the pointer is on the screen."""
+        values = _shell_values(self.xdotool("getmouselocation", "--shell"))
+        return values["X"], values["Y"]
+
+    def press(self, button=LEFT):
+        self.xdotool("mousedown", button)
+
+    def release(self, button=LEFT):
+        self.xdotool("mouseup", button)
+
+    def key(self, *keys):
+        """Presses and releases keys, named as X names them ("ctrl+c", "Delete")."""
+        self.xdotool("key", *keys)
+
+    def key_down(self, *keys):
+        self.xdotool("keydown", *keys)
+
+    def key_up(self, *keys):
+        self.xdotool("keyup", *keys)
+
+    def type_text(self, text):
+        self.xdotool("type", "--", text)
+
+
+class Window:
+    """A window on a desktop; its points count from the top left inside the frame."""
+
+    def __init__(self, desktop, identifier):
+        self.desktop = desktop
+        self.id = identifier
+        # What xdotool tells of a framed window's place is off by the frame; the pointer is not.
+        desktop.xdotool("mousemove", "--window", identifier, 0, 0)
+        self.origin = desktop.pointer()
+        values = _shell_values(desktop.xdotool("getwindowgeometry", "--shell", identifier))
+        self.size = values["WIDTH"], values["HEIGHT"]
+
+    def move(self, point):
+        """Puts the pointer on this point of the window."""
+        self.desktop.move(self.origin[0] + point[0], self.origin[1] + point[1])
+
+    def click(self, point, button=LEFT):
+        self.move(point)
+        self.desktop.press(button)
+        self.desktop.release(button)
+
+    def double_click(self, point):
+        self.move(point)
+        self.desktop.xdotool("click", "--repeat", 2, "--delay", 20, LEFT)
+
+    def drag(self, start, end, steps=8, button=LEFT):
+        """Presses at the start, moves along a straight line and releases at the end."""
+        self.move(start)
+        self.desktop.press(button)
+        for step in range(1, steps + 1):
+            self.move([a + round((b - a) * step / steps) for a, b in zip(start, end)])
+        self.desktop.release(button)
+
+    def picture(self):
+        """What is inside the frame now."""
+        return self.desktop.picture().crop(*self.origin, *self.size)
+
+
+def _shell_values(result):
+    """The numbers that xdotool prints as shell assignments."""
+    return {name: int(value) for name, value in (line.split("=") for line in result.stdout.split())}

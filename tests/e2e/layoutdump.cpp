@@ -1,0 +1,91 @@
+#include "TonquillMainWin.h"
+#include "TonquillView.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTextStream>
+#include <QTimer>
+#include <QToolBar>
+#include <QWindow>
+
+namespace
+{
+
+QJsonObject toJson(const QRect &rect)
+{
+    return {{QStringLiteral("x"), rect.x()},
+            {QStringLiteral("y"), rect.y()},
+            {QStringLiteral("width"), rect.width()},
+            {QStringLiteral("height"), rect.height()}};
+}
+
+QRect rectInWindow(const QWidget &widget)
+{
+    return {widget.mapTo(widget.window(), QPoint(0, 0)), widget.size()};
+}
+
+/** The buttons of a toolbar, from left to right, by id: numbers that count on from the first. */
+void addButtons(QJsonObject &buttons, const TonquillMainWin &window, const QString &toolBarName,
+                int firstId)
+{
+    const auto *toolBar = window.findChild<QToolBar *>(toolBarName);
+    int id = firstId;
+    const QList<QAction *> actions = toolBar->actions();
+    for (QAction *action : actions) {
+        const QWidget *button = toolBar->widgetForAction(action);
+        if (button->isVisible())
+            buttons.insert(QString::number(id), toJson(rectInWindow(*button)));
+        ++id;
+    }
+}
+
+/**
+ * Where things are inside the window. A point of the viewport plus "scene" is the
+ * scene's point there.
+ */
+QJsonObject layout(const TonquillMainWin &window)
+{
+    QJsonObject buttons;
+    addButtons(buttons, window, QStringLiteral("toolBar1"), 0);
+    addButtons(buttons, window, QStringLiteral("toolBar2"), 0x100);
+    addButtons(buttons, window, QStringLiteral("toolBar3"), 0x200);
+
+    const auto *view = window.findChild<TonquillView *>(QStringLiteral("graphicsView"));
+    const QPointF origin = view->mapToScene(0, 0);
+    return {{QStringLiteral("window"), toJson({QPoint(0, 0), window.size()})},
+            {QStringLiteral("viewport"), toJson(rectInWindow(*view->viewport()))},
+            {QStringLiteral("scene"), QJsonArray{origin.x(), origin.y()}},
+            {QStringLiteral("buttons"), buttons}};
+}
+
+} // namespace
+
+/**
+ * Shows the main window as the program does, prints its layout as JSON and ends: so
+ * a test knows where to click, and the program needs no way to be asked.
+ */
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    TonquillMainWin window;
+    window.showNormal();
+    window.raise();
+
+    QTimer timer;
+    QJsonObject last;
+    QObject::connect(&timer, &QTimer::timeout, &window, [&] {
+        if (!window.windowHandle()->isExposed() || !window.isActiveWindow())
+            return;
+        const QJsonObject now = layout(window);
+        if (now == last)
+            QCoreApplication::quit();
+        last = now;
+    });
+    timer.start(50);
+    QApplication::exec();
+    QTextStream(stdout) << QJsonDocument(last).toJson();
+    return 0;
+}
