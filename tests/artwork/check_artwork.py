@@ -117,7 +117,7 @@ class GeneratedTest(unittest.TestCase):
 
     def test_every_output_is_current(self):
         with tempfile.TemporaryDirectory() as folder:
-            subprocess.run([sys.executable, ROOT / "artwork/generate.py", "--output", folder],
+            subprocess.run([sys.executable, "-B", ROOT / "artwork/generate.py", "--output", folder],
                            check=True)
             written = [path for path in Path(folder).rglob("*") if path.is_file()]
             self.assertGreater(len(written), 80)
