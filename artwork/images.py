@@ -1,4 +1,4 @@
-"""The pictures of the 37 symbols: 8 pixels a space for the screen, 64 for dense screens and paper."""
+"""The pictures of the 37 symbols: 8 pixels a space for the screen, 64 for anything finer."""
 
 import math
 
