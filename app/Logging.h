@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QLoggingCategory>
+
+// Diagnostics, without any behaviour. The first is on; the others write a line for each record or
+// pointer event and are switched on with QT_LOGGING_RULES="tonquill.*=true".
+Q_DECLARE_LOGGING_CATEGORY(lcTonquill)
+Q_DECLARE_LOGGING_CATEGORY(lcRecords)
+Q_DECLARE_LOGGING_CATEGORY(lcPointer)

@@ -1,0 +1,131 @@
+#include "TonquillMainWin.h"
+
+#include "HostLink.h"
+#include "InsertCommands.h"
+#include "Logging.h"
+#include "PagePrinter.h"
+#include "PaletteBuilder.h"
+#include "SymRefFiles.h"
+#include "TonquillScene.h"
+#include "ui_TonquillMainWin.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFontDatabase>
+
+TonquillMainWin *g_pMainWin = nullptr;
+QString g_csINIPath;
+
+namespace
+{
+/** Scenes whose windows may be gone; they are destroyed when the application is. */
+QList<TonquillScene *> &scenesOfTheProcess()
+{
+    static QList<TonquillScene *> scenes;
+    return scenes;
+}
+
+void destroyScenes()
+{
+    qDeleteAll(scenesOfTheProcess());
+    scenesOfTheProcess().clear();
+}
+
+TonquillScene *makeSceneForTheProcess()
+{
+    if (scenesOfTheProcess().isEmpty())
+        qAddPostRoutine(destroyScenes);
+    scenesOfTheProcess().append(new TonquillScene);
+    return scenesOfTheProcess().constLast();
+}
+
+void loadNotationFont()
+{
+    const int id =
+        QFontDatabase::addApplicationFont(QCoreApplication::applicationDirPath() + "/Musica.ttf");
+    qCDebug(lcTonquill) << "add font :" << id << QFontDatabase::applicationFontFamilies(id);
+}
+} // namespace
+
+TonquillMainWin::TonquillMainWin(QWidget *parent)
+    : QMainWindow(parent)
+    , ui(new Ui_TonquillMainWin)
+    , m_printer(QPrinter::ScreenResolution)
+    , m_insert(std::make_unique<InsertCommands>(*this))
+    , m_palette(std::make_unique<PaletteBuilder>(*this))
+    , m_pagePrinter(std::make_unique<PagePrinter>(*this))
+    , m_symRefs(std::make_unique<SymRefFiles>(*this))
+    , m_hostLink(std::make_unique<HostLink>(*this))
+{
+    Q_INIT_RESOURCE(images);
+    // A dialog closed while this window is hidden is no reason to end the program.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+
+    ui->setupUi(this);
+    ui->textEdit->hide();
+    loadNotationFont();
+    resize(826, 704);
+    g_pMainWin = this;
+    g_csINIPath = QCoreApplication::applicationDirPath();
+    qCDebug(lcTonquill) << g_csINIPath;
+    connect(&socket, SIGNAL(readyRead()), this, SLOT(onTWData()));
+    connect(&socket, SIGNAL(connected()), this, SLOT(onTWConnect()));
+    scene = makeSceneForTheProcess();
+    ui->graphicsView->setScene(scene);
+    constructBitmapSymbols();
+    connect(ui->graphicsView, SIGNAL(scrolled(QPointF)), this, SLOT(onViewScroll(QPointF)));
+    m_palette->build();
+    connect(ui->pb_insertPage, SIGNAL(clicked()), this, SLOT(OnInsertPageClicked()));
+    connect(ui->pb_deletePAge, SIGNAL(clicked()), this, SLOT(OnMenuDeletePage()));
+    connect(ui->sb_page, SIGNAL(valueChanged(int)), this, SLOT(OnSetCurPage(int)));
+    ui->graphicsView->centerOn(QPointF(0, 0));
+    setWindowState(Qt::WindowActive);
+    socket.connectToServer(QStringLiteral("trackwrightqt"), QIODevice::ReadWrite);
+    setWindowFlags(windowFlags() & ~(Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint));
+    setFocusPolicy(Qt::ClickFocus);
+}
+
+TonquillMainWin::~TonquillMainWin()
+{
+    // The view's last focus events must not reach a window that is going.
+    if (g_pMainWin == this)
+        g_pMainWin = nullptr;
+    socket.disconnect(this);
+    socket.disconnectFromServer();
+    socket.close();
+    delete ui;
+}
+
+TonquillView *TonquillMainWin::view() const
+{
+    return ui->graphicsView;
+}
+
+void TonquillMainWin::keyPressEvent(QKeyEvent *event)
+{
+    QMainWindow::keyPressEvent(event);
+}
+
+void TonquillMainWin::keyReleaseEvent(QKeyEvent *event)
+{
+    QMainWindow::keyReleaseEvent(event);
+}
+
+bool TonquillMainWin::event(QEvent *event)
+{
+    return QMainWindow::event(event);
+}
+
+void TonquillMainWin::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        m_palette->refreshIcons();
+}
+
+void TonquillMainWin::closeEvent(QCloseEvent *event)
+{
+    qCDebug(lcTonquill) << "Tonquill close event";
+    setVisible(false);
+    event->ignore();
+}

@@ -1,0 +1,188 @@
+#pragma once
+
+#include <QHash>
+#include <QLocalSocket>
+#include <QMainWindow>
+#include <QPixmap>
+#include <QPrinter>
+
+#include <memory>
+
+class HostLink;
+class InsertCommands;
+class PagePrinter;
+class PaletteBuilder;
+class QAction;
+class QMenu;
+class SymRefFiles;
+class TonquillBitmap;
+class TonquillScene;
+class TonquillView;
+class Ui_TonquillMainWin;
+
+/**
+ * The one main window: the view of the document, the three toolbars, the page controls, the
+ * printer and the link to the host.
+ *
+ * The slots are declared here in the order of the controls that they answer; each is one line
+ * that hands its work to the class for it. Closing the window only hides it.
+ */
+class TonquillMainWin : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit TonquillMainWin(QWidget *parent = nullptr);
+    ~TonquillMainWin() override;
+
+    // What the scene, the palette and embedding programs read and write directly.
+
+    Ui_TonquillMainWin *ui;         ///< the widget tree
+    QLocalSocket socket;            ///< the link to the host
+    TonquillScene *scene = nullptr; ///< the document; it outlives the window
+    QHash<int, QPixmap> symbols;    ///< the glyphs, by symbol id
+    QHash<int, QAction *> actions;  ///< toolbar and menu actions, by slot id
+    QHash<int, QMenu *> menus;      ///< the menus of toolbar buttons, by the button's slot id
+    QHash<int, QPixmap> strip2;     ///< toolbar 2's icons, by slot id
+    QHash<int, QPixmap> strip2B;    ///< the same while Ctrl is held: rests for notes
+    int tb2Count = 0;               ///< number of icons in toolbar 2
+    int tb2IconWidth = 0;           ///< pixels
+    int tb2IconHeight = 0;          ///< pixels
+    int pageCount = 0;              ///< pages of the document; kept by the scene
+    bool restMode = false;          ///< Ctrl is held: the note buttons insert rests
+    bool quickText = false;         ///< letters typed on the page open a text block
+
+    /** The printer of every print, preview and page setup while the program runs. */
+    QPrinter &sharedPrinter() { return m_printer; }
+
+    /** The view of the scene. */
+    TonquillView *view() const;
+
+    /** Loads the glyphs of the symbol table. */
+    void constructBitmapSymbols();
+
+    /**
+     * Makes a glyph and adds it to the scene, which owns it. With `withInverted` its inverted
+     * form is the glyph of the next id. An id without a glyph makes an item without a picture.
+     * Null if no item was made.
+     */
+    TonquillBitmap *InsertBitmapSymbol(int id, bool adding, bool withInverted);
+
+    /** Makes a note or rest that waits to be placed and can be inverted with the right button. */
+    void InsertNoteRest(int id);
+
+    /** Gives toolbar 2 the icons that go with `restMode`. */
+    void swapTb2();
+
+    /** The menu of the symbols-reference button, filled anew from the application directory. */
+    QMenu *constructMenuSymRef();
+
+    /** Replaces the document by that of a host's message: records separated by "|". */
+    void twMsg(const QString &msg);
+
+public Q_SLOTS:
+    // Page controls
+    void OnInsertPageClicked();
+    void OnMenuAddPageBeginning();
+    void OnMenuAddPageBeforeCurPage();
+    void OnMenuAddPageAfterCurPage();
+    void OnMenuAddPageEnd();
+    void OnMenuDeletePage();
+    void OnSetCurPage(int val);
+    void onViewScroll(QPointF pt);
+
+    // Toolbar 1
+    void OnToolBar1ButtonTrackwright();
+    void OnToolBar1ButtonSheetMusic();
+    void OnToolBar1ButtonGuitarTabs();
+    void OnToolBar1ButtonPrintPreview();
+    void OnToolBar1ButtonPageSetup();
+    void OnToolBar1ButtonPrint();
+    void OnToolBar1ButtonUndo();
+    void OnToolBar1ButtonRedo();
+
+    // Toolbar 3
+    void OnToolBar3ButtonTextBlock();
+    void OnToolBar3ButtonLineTab();
+    void OnMenuActionSymRefCreateNew();
+    void OnMenuActionSymRefSymRef();
+    void OnToolBar3ButtonInteractiveLine();
+
+    // Toolbar 2
+    void OnToolBar2ButtonText();
+    void OnToolBar2ButtonGrandstaff();
+    void OnMenuButtonGClef();
+    void OnMenuButtonFClef();
+    void OnToolBar2ActionTempo();
+    void OnMenuButtonCReg();
+    void OnMenuButtonCCut();
+    void OnToolBar2ActionTimesig();
+    void OnMenuButtonFlat();
+    void OnMenuButtonSharp();
+    void OnMenuButtonNatural();
+    void OnToolBar2ButtonRepeatB();
+    void OnToolBar2ButtonRepeatE();
+    void OnToolBar2ButtonStaffLine();
+    void OnToolBar2ButtonNote1();
+    void OnToolBar2ButtonNote2();
+    void OnToolBar2ButtonNote4();
+    void OnToolBar2ButtonNote8();
+    void OnToolBar2ButtonNote16();
+    void OnToolBar2ButtonNote32();
+    void OnToolBar2ButtonNote64();
+    void OnToolBar2ButtonNote128();
+    void OnToolBar2ButtonNoteDot();
+    void OnToolBar2ButtonNoteTrip();
+    void OnToolBar2ButtonNoteTie();
+
+    // Bound to no button
+    void OnToolBar2ButtonCommonTimeW();
+    void OnToolBar2ButtonCommonTimeH();
+    void OnMenuActionSymRefCymbals();
+    void OnMenuActionSymRefDrumKit();
+    void OnMenuActionSymRefDrums();
+    void OnMenuActionSymRefGuitar();
+    void OnMenuActionSymRefHarmonica();
+
+    // Quick text
+    void onQuickTextAction(bool on);
+
+    // Printing
+    void OnPageSetupAccepted();
+    void filePrint();
+    void print(QPrinter *printer);
+    /** Kept for those who connect to it; it does nothing. */
+    void printer();
+
+    // Host link
+    void onTWConnect();
+    void onTWData();
+    /** Sends the whole document to the host. */
+    void notifyTW();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    int currentPage() const;
+    void refreshPageLabel();
+    void insertNoteOrRest(int value);
+    QString senderText() const;
+
+    QPrinter m_printer;
+    std::unique_ptr<InsertCommands> m_insert;
+    std::unique_ptr<PaletteBuilder> m_palette;
+    std::unique_ptr<PagePrinter> m_pagePrinter;
+    std::unique_ptr<SymRefFiles> m_symRefs;
+    std::unique_ptr<HostLink> m_hostLink;
+};
+
+/** The one main window, from its construction to its destruction. */
+extern TonquillMainWin *g_pMainWin;
+
+/** The application's directory, where the symbols reference files lie. */
+extern QString g_csINIPath;

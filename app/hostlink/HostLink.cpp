@@ -1,0 +1,120 @@
+#include "HostLink.h"
+
+#include "HostMessages.h"
+#include "Logging.h"
+#include "TonquillMainWin.h"
+#include "TonquillScene.h"
+
+#include <QMessageBox>
+
+namespace
+{
+// Milliseconds. A message that breaks off within a record is given longer, for its writer may
+// only have been held up; and one that never ends is judged by what came.
+constexpr int quietAfterRecord = 60;
+constexpr int quietWithinRecord = 400;
+constexpr qint64 longestMessage = 30000;
+} // namespace
+
+HostLink::HostLink(TonquillMainWin &window)
+    : m_window(window)
+{
+    m_quiet.setSingleShot(true);
+    connect(&m_quiet, SIGNAL(timeout()), this, SLOT(judge()));
+    connect(&window.socket, SIGNAL(bytesWritten(qint64)), this, SLOT(sendNext()));
+    connect(&window.socket, SIGNAL(disconnected()), this, SLOT(onDisconnected()));
+}
+
+void HostLink::readAvailable()
+{
+    const QByteArray bytes = m_window.socket.readAll();
+    if (bytes.isEmpty())
+        return;
+    if (m_incoming.isEmpty())
+        m_sinceFirstPiece.start();
+    m_incoming.append(bytes);
+    if (m_incoming.isOneSmallPiece() || m_sinceFirstPiece.hasExpired(longestMessage))
+        judge();
+    else
+        m_quiet.start(m_incoming.endsWithRecord() ? quietAfterRecord : quietWithinRecord);
+}
+
+void HostLink::judge()
+{
+    m_quiet.stop();
+    const QString text = m_incoming.take();
+    if (text.startsWith(HostMessages::fromHost))
+        act(text.sliced(HostMessages::fromHost.size()));
+}
+
+void HostLink::act(const QString &payload)
+{
+    if (payload == HostMessages::stateActivate) {
+        m_window.setVisible(true);
+        m_window.raise();
+    } else if (payload == HostMessages::stateNothingToUndo) {
+        showBox(QStringLiteral("Undo"), QStringLiteral("Nothing to undo"));
+    } else if (payload == HostMessages::stateNothingToRedo) {
+        showBox(QStringLiteral("Redo"), QStringLiteral("Nothing to redo"));
+    } else {
+        m_window.twMsg(payload);
+    }
+}
+
+/** The box does not run a loop of its own: the socket must be heard while it is open. */
+void HostLink::showBox(const QString &title, const QString &text)
+{
+    auto *box = new QMessageBox(QMessageBox::Warning, title, text, QMessageBox::Ok, &m_window);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+void HostLink::receiveDocument(const QString &payload)
+{
+    TonquillScene &scene = *m_window.scene;
+    scene.clearScene();
+    // A page-count line builds nothing: pages come and go with the user's page controls only.
+    for (const QStringView record : QStringView(payload).tokenize(u'|')) {
+        if (!record.isEmpty() && record != QStringView(u"\n"))
+            scene.constructItem(record.toString(), false, 0);
+    }
+}
+
+void HostLink::onDisconnected()
+{
+    m_outbox.clear();
+    readAvailable();
+    // What is cut off within a record is no document: better the one that the user sees.
+    if (m_incoming.endsWithRecord())
+        judge();
+    m_quiet.stop();
+    m_incoming.take();
+}
+
+void HostLink::sendDocument()
+{
+    if (m_window.socket.state() != QLocalSocket::ConnectedState)
+        return;
+    m_outbox.addDocument();
+    sendNext();
+}
+
+void HostLink::sendCommand(const QString &command)
+{
+    if (m_window.socket.state() != QLocalSocket::ConnectedState)
+        return;
+    m_outbox.addCommand(command);
+    sendNext();
+}
+
+void HostLink::sendNext()
+{
+    if (m_outbox.isEmpty() || m_window.socket.bytesToWrite() > 0)
+        return;
+    const Outbox::Message next = m_outbox.takeFirst();
+    const QString text = next.isDocument() ? m_window.scene->notifyTW() : next.command;
+    const QString message = HostMessages::toHost + text;
+    qCDebug(lcRecords).noquote() << "notifyTW " << message;
+    // Latin-1 keeps an accented letter; what it lacks becomes a question mark.
+    m_window.socket.write(message.toLatin1());
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "IncomingMessage.h"
+#include "Outbox.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+
+class TonquillMainWin;
+
+/**
+ * The editor's end of the local socket to the host.
+ *
+ * Incoming: collects a message, judges it once it is whole, and acts on it. Outgoing: one message
+ * at a time, the document in its newest state. Without a host everything sent is silently lost.
+ */
+class HostLink : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Works on `window` and its socket, both of which outlive the link. */
+    explicit HostLink(TonquillMainWin &window);
+
+    /** Reads what the host has written so far. */
+    void readAvailable();
+
+    /** Sends the whole document. */
+    void sendDocument();
+
+    /** Sends one of the commands of HostMessages. */
+    void sendCommand(const QString &command);
+
+    /** Shows the result of the host's document: records separated by "|". */
+    void receiveDocument(const QString &payload);
+
+private Q_SLOTS:
+    void judge();
+    void sendNext();
+    void onDisconnected();
+
+private:
+    void act(const QString &payload);
+    void showBox(const QString &title, const QString &text);
+
+    TonquillMainWin &m_window;
+    IncomingMessage m_incoming;
+    QElapsedTimer m_sinceFirstPiece;
+    QTimer m_quiet;
+    Outbox m_outbox;
+};

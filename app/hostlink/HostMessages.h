@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+/** The texts of the host link. Messages have no end mark: one write is one message. */
+namespace HostMessages
+{
+inline const QString fromHost = QStringLiteral("tw2tonquill ");
+inline const QString toHost = QStringLiteral("tonquill2tw ");
+
+inline const QString stateActivate = QStringLiteral("state:activate");
+inline const QString stateNothingToUndo = QStringLiteral("state:nothingtoundo");
+inline const QString stateNothingToRedo = QStringLiteral("state:nothingtoredo");
+
+inline const QString commandRaise = QStringLiteral("command:raise");
+inline const QString commandUndo = QStringLiteral("command:undo");
+inline const QString commandRedo = QStringLiteral("command:redo");
+} // namespace HostMessages

@@ -1,0 +1,40 @@
+#include "IncomingMessage.h"
+
+#include "HostMessages.h"
+#include "Logging.h"
+#include "Records.h"
+
+void IncomingMessage::append(const QByteArray &bytes)
+{
+    ++m_pieces;
+    m_received += bytes.size();
+    if (m_received > largestMessage) {
+        qCWarning(lcTonquill) << "a message of more than" << largestMessage << "bytes is ignored";
+        m_bytes.clear();
+    } else if (m_pieces == 1 || isFromHost()) {
+        m_bytes += bytes;
+    }
+}
+
+bool IncomingMessage::isFromHost() const
+{
+    const QByteArray prefix = HostMessages::fromHost.toLatin1();
+    return prefix.startsWith(m_bytes.first(qMin(prefix.size(), m_bytes.size()))) &&
+           !m_bytes.isEmpty();
+}
+
+bool IncomingMessage::endsWithRecord() const
+{
+    if (m_bytes.endsWith('\n'))
+        return true;
+    const QByteArray last = m_bytes.sliced(m_bytes.lastIndexOf('|') + 1);
+    return !std::holds_alternative<std::monostate>(Records::parse(QString::fromLatin1(last)));
+}
+
+QString IncomingMessage::take()
+{
+    const qsizetype end = m_bytes.indexOf('\0');
+    const QString text = QString::fromLatin1(end < 0 ? m_bytes : m_bytes.first(end));
+    *this = IncomingMessage();
+    return text;
+}

@@ -1,0 +1,40 @@
+#include "HostLink.h"
+#include "HostMessages.h"
+#include "Logging.h"
+#include "TonquillMainWin.h"
+
+void TonquillMainWin::onTWConnect()
+{
+    qCDebug(lcTonquill) << "connected to TW";
+    notifyTW();
+}
+
+void TonquillMainWin::onTWData()
+{
+    m_hostLink->readAvailable();
+}
+
+void TonquillMainWin::notifyTW()
+{
+    m_hostLink->sendDocument();
+}
+
+void TonquillMainWin::twMsg(const QString &msg)
+{
+    m_hostLink->receiveDocument(msg);
+}
+
+void TonquillMainWin::OnToolBar1ButtonTrackwright()
+{
+    m_hostLink->sendCommand(HostMessages::commandRaise);
+}
+
+void TonquillMainWin::OnToolBar1ButtonUndo()
+{
+    m_hostLink->sendCommand(HostMessages::commandUndo);
+}
+
+void TonquillMainWin::OnToolBar1ButtonRedo()
+{
+    m_hostLink->sendCommand(HostMessages::commandRedo);
+}

@@ -1,0 +1,117 @@
+#include "InsertCommands.h"
+
+#include "Logging.h"
+#include "TonquillBitmap.h"
+#include "TonquillMainWin.h"
+#include "TonquillScene.h"
+#include "TonquillSimpleTextDlg.h"
+#include "TonquillText.h"
+#include "TonquillTextBlock.h"
+#include "TonquillTimeSig.h"
+#include "TonquillVectorGrandstaff.h"
+#include "TonquillVectorInteractiveLine.h"
+#include "TonquillVectorLineTab.h"
+#include "TonquillVectorNoteTie.h"
+#include "TonquillVectorTriplet.h"
+
+InsertCommands::InsertCommands(TonquillMainWin &window)
+    : m_window(window)
+{}
+
+TonquillScene &InsertCommands::scene() const
+{
+    return *m_window.scene;
+}
+
+TonquillBitmap *InsertCommands::bitmap(int id, bool adding, bool withInverted)
+{
+    if (scene().isNewItemIsAdding())
+        return nullptr;
+    const QPixmap image = m_window.symbols.value(id);
+    // The inverted form of a rest is the next shorter note. That pairing is meant. No id follows
+    // the largest int.
+    const bool hasNext = withInverted && id < std::numeric_limits<int>::max();
+    const QPixmap inverted = hasNext ? m_window.symbols.value(id + 1) : QPixmap();
+    auto *item = new TonquillBitmap(image, id, adding, inverted);
+    scene().addNewItem(item);
+    return item;
+}
+
+void InsertCommands::text()
+{
+    if (scene().isNewItemIsAdding())
+        return;
+    TonquillSimpleTextDlg dialog(&m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    auto *item = new TonquillText(true);
+    dialog.applyTo(*item);
+    addText(item);
+    // A new text turns the other way than an edited one. That is meant.
+    item->setRotation(-dialog.angle());
+    item->updateFrame();
+}
+
+void InsertCommands::tempo(const QString &term)
+{
+    qCDebug(lcTonquill) << "OnToolBar2ActionTempo";
+    auto *item = new TonquillText(true);
+    item->setFont(QFont(QStringLiteral("Arial"), 12));
+    item->setPlainText(term);
+    addText(item);
+    item->updateFrame();
+}
+
+void InsertCommands::addText(TonquillText *item)
+{
+    QObject::connect(item, SIGNAL(showTextItemMenu(TonquillText *)), &scene(),
+                     SLOT(onTextItemContextMenu(TonquillText *)));
+    scene().addNewItem(item);
+}
+
+void InsertCommands::timeSignature(const QString &text)
+{
+    const qsizetype slash = text.indexOf(u'/');
+    const QStringView view(text);
+    const int upper = slash < 0 ? text.toInt() : view.first(slash).toInt();
+    const int lower = slash < 0 ? 0 : view.sliced(slash + 1).toInt();
+    scene().addNewItem(new TonquillTimeSig(upper, lower, true));
+}
+
+void InsertCommands::textBlock()
+{
+    if (!scene().isNewItemIsAdding())
+        scene().addNewItem(new TonquillTextBlock(true, QString(), QRectF()));
+}
+
+template <typename VectorItem>
+void InsertCommands::vectorItem()
+{
+    if (!scene().isNewItemIsAdding())
+        scene().addNewItem(new VectorItem(true, QPointF(0, 0), QPointF(0, 0)));
+}
+
+void InsertCommands::grandstaff()
+{
+    vectorItem<TonquillVectorGrandstaff>();
+}
+
+void InsertCommands::triplet()
+{
+    vectorItem<TonquillVectorTriplet>();
+}
+
+void InsertCommands::tie()
+{
+    vectorItem<TonquillVectorNoteTie>();
+}
+
+void InsertCommands::line()
+{
+    vectorItem<TonquillVectorInteractiveLine>();
+}
+
+void InsertCommands::tablature()
+{
+    scene().addNewItem(new TonquillVectorLineTab(true, QPointF(0, 0), QPointF(0, 0)));
+}

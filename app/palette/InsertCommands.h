@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+
+class QGraphicsItem;
+class TonquillBitmap;
+class TonquillMainWin;
+class TonquillScene;
+class TonquillText;
+
+/**
+ * The palette's commands: each makes a new item and hands it to the scene, where it follows the
+ * pointer until it is placed. Most of them first drop an item that still waits for that.
+ */
+class InsertCommands
+{
+public:
+    explicit InsertCommands(TonquillMainWin &window);
+
+    /** See TonquillMainWin::InsertBitmapSymbol(). */
+    TonquillBitmap *bitmap(int id, bool adding, bool withInverted);
+
+    /** A simple text, after its dialog was accepted. */
+    void text();
+
+    /** A simple text with a tempo term. An item that waits stays. */
+    void tempo(const QString &term);
+
+    /** A time signature written "upper/lower". An item that waits stays. */
+    void timeSignature(const QString &text);
+
+    void textBlock();
+    void grandstaff();
+    void triplet();
+    void tie();
+    void line();
+
+    /** Tablature lines. An item that waits stays, so that two of these may be laid in a row. */
+    void tablature();
+
+private:
+    template <typename VectorItem>
+    void vectorItem();
+    void addText(TonquillText *item);
+    TonquillScene &scene() const;
+
+    TonquillMainWin &m_window;
+};

@@ -1,0 +1,169 @@
+#include "PaletteBuilder.h"
+
+#include "TonquillMainWin.h"
+#include "ToolBarStrip.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QToolBar>
+#include <QToolButton>
+
+#include <algorithm>
+
+PaletteBuilder::PaletteBuilder(TonquillMainWin &window)
+    : m_window(window)
+{}
+
+void PaletteBuilder::build()
+{
+    for (const PaletteToolBar &row : PaletteTable::toolBars())
+        buildToolBar(row);
+    refreshIcons();
+}
+
+void PaletteBuilder::buildToolBar(const PaletteToolBar &row)
+{
+    QToolBar *toolBar = toolBarOf(row);
+    for (const PaletteEntry &entry : row.entries) {
+        if (entry.slot)
+            addAction(toolBar, entry);
+        else
+            addMenuButton(toolBar, entry);
+    }
+}
+
+/** The action's text stays empty: the button is its icon, and its name goes into the tips. */
+void PaletteBuilder::addAction(QToolBar *toolBar, const PaletteEntry &entry)
+{
+    QAction *action = toolBar->addAction(QString());
+    action->setToolTip(entry.translatedName());
+    action->setStatusTip(entry.translatedName());
+    toolBar->widgetForAction(action)->setAccessibleName(entry.translatedName());
+    m_window.actions.insert(entry.id, action);
+    QObject::connect(action, SIGNAL(triggered()), &m_window, entry.slot);
+}
+
+void PaletteBuilder::addMenuButton(QToolBar *toolBar, const PaletteEntry &entry)
+{
+    QMenu *menu = constructMenu(entry.id);
+    QToolButton *button = constructToolButton(QIcon(), menu);
+    button->setToolTip(entry.translatedName());
+    button->setStatusTip(entry.translatedName());
+    button->setAccessibleName(entry.translatedName());
+    button->setAutoRaise(true);
+    QAction *action = toolBar->addWidget(button);
+    m_window.actions.insert(entry.id, action);
+    m_window.menus.insert(entry.id, menu);
+}
+
+QToolButton *PaletteBuilder::constructToolButton(const QIcon &icon, QMenu *menu)
+{
+    auto *button = new QToolButton;
+    button->setIcon(icon);
+    button->setPopupMode(QToolButton::InstantPopup);
+    if (menu)
+        button->setMenu(menu);
+    return button;
+}
+
+QMenu *PaletteBuilder::constructMenu(int buttonId)
+{
+    if (buttonId == PaletteTable::symbolsReferenceId)
+        return m_window.constructMenuSymRef();
+    const QList<PaletteMenu> &rows = PaletteTable::menus();
+    const auto row = std::find_if(rows.cbegin(), rows.cend(), [buttonId](const PaletteMenu &menu) {
+        return menu.buttonId == buttonId;
+    });
+    return fillMenu(*row);
+}
+
+QMenu *PaletteBuilder::fillMenu(const PaletteMenu &row)
+{
+    auto *menu = new QMenu(&m_window);
+    for (const PaletteEntry &entry : row.entries) {
+        if (entry.isSeparator()) {
+            menu->addSeparator();
+            continue;
+        }
+        QAction *action = menu->addAction(QString::fromLatin1(entry.text), &m_window, entry.slot);
+        action->setStatusTip(entry.translatedName());
+        m_window.actions.insert(entry.id, action);
+    }
+    return menu;
+}
+
+QColor PaletteBuilder::ink() const
+{
+    return m_window.palette().color(QPalette::ButtonText);
+}
+
+void PaletteBuilder::refreshIcons()
+{
+    for (const PaletteToolBar &row : PaletteTable::toolBars())
+        inkToolBar(row);
+    inkMenus();
+    m_window.swapTb2();
+}
+
+void PaletteBuilder::inkToolBar(const PaletteToolBar &row)
+{
+    const int count = static_cast<int>(row.entries.size());
+    const ToolBarStrip strip(QString::fromLatin1(row.strip), count);
+    QToolBar *toolBar = toolBarOf(row);
+    toolBar->setIconSize(strip.sliceSize());
+    for (int i = 0; i < count; ++i) {
+        QAction *action = m_window.actions.value(row.entries[i].id);
+        action->setIcon(strip.icon(i, ink()));
+        auto *button = qobject_cast<QToolButton *>(toolBar->widgetForAction(action));
+        button->setIcon(action->icon());
+        button->setIconSize(strip.sliceSize());
+    }
+    if (row.heldStrip)
+        keepToolBar2Strips(strip, ToolBarStrip(QString::fromLatin1(row.heldStrip), count));
+}
+
+void PaletteBuilder::keepToolBar2Strips(const ToolBarStrip &normal, const ToolBarStrip &held)
+{
+    m_window.tb2Count = normal.count();
+    m_window.tb2IconWidth = normal.sliceSize().width();
+    m_window.tb2IconHeight = normal.sliceSize().height();
+    m_toolBar2Icons.clear();
+    m_toolBar2HeldIcons.clear();
+    for (int i = 0; i < normal.count(); ++i) {
+        const int id = PaletteTable::toolBar2FirstId + i;
+        m_window.strip2.insert(id, normal.slice(i, ink()));
+        m_window.strip2B.insert(id, held.slice(i, ink()));
+        m_toolBar2Icons.append(normal.icon(i, ink()));
+        m_toolBar2HeldIcons.append(held.icon(i, ink()));
+    }
+}
+
+/** The glyphs are black; in a menu they take the colour of the menu's text. */
+void PaletteBuilder::inkMenus()
+{
+    for (const PaletteMenu &row : PaletteTable::menus()) {
+        for (const PaletteEntry &entry : row.entries) {
+            if (entry.symbol < 0)
+                continue;
+            const QPixmap glyph = m_window.symbols.value(entry.symbol);
+            m_window.actions.value(entry.id)->setIcon(
+                ToolBarStrip::inked(glyph.toImage(), m_window.palette().color(QPalette::Text)));
+        }
+    }
+}
+
+void PaletteBuilder::showToolBar2Icons(bool rests)
+{
+    const QList<QIcon> &icons = rests ? m_toolBar2HeldIcons : m_toolBar2Icons;
+    for (int i = 0; i < icons.size(); ++i) {
+        // The four menu buttons keep their icons.
+        const int id = PaletteTable::toolBar2FirstId + i;
+        if (!m_window.menus.contains(id))
+            m_window.actions.value(id)->setIcon(icons[i]);
+    }
+}
+
+QToolBar *PaletteBuilder::toolBarOf(const PaletteToolBar &row) const
+{
+    return m_window.findChild<QToolBar *>(QString::fromLatin1(row.objectName));
+}

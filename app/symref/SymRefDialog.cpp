@@ -1,0 +1,70 @@
+#include "SymRefDialog.h"
+
+#include "SymRefFiles.h"
+#include "ui_SymRefDialog.h"
+
+#include <QDir>
+#include <QFile>
+#include <QMessageBox>
+
+SymRefDialog::SymRefDialog(QWidget *parent)
+    : QDialog(parent)
+    , ui(new Ui_SymRefDialog)
+{
+    ui->setupUi(this);
+}
+
+SymRefDialog::~SymRefDialog()
+{
+    delete ui;
+}
+
+void SymRefDialog::on_pb_ok_clicked()
+{
+    if (!checkInput())
+        return;
+    const QString path = SymRefFiles::pathOf(ui->lineEdit->text());
+    // Only a folder of that name asks; an existing file is overwritten. The "%s" is shown as it
+    // stands. Both are meant.
+    if (QDir(path).exists() &&
+        QMessageBox::question(this, QStringLiteral("Overwrite?"),
+                              QStringLiteral("The destination file already exists:\n\n\t%s\n\n"
+                                             "Do you want to overwrite it?"),
+                              QMessageBox::Yes | QMessageBox::No,
+                              QMessageBox::No) != QMessageBox::Yes)
+        return;
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        file.write(ui->textEdit->toPlainText().toLatin1());
+    accept();
+}
+
+/** False, after a word to the user, if something is missing or the name is no file's name. */
+bool SymRefDialog::checkInput()
+{
+    const QString instrument = ui->lineEdit->text();
+    if (instrument.isEmpty()) {
+        warn(QStringLiteral("Please supply an Instrument Name, thanks."));
+        return false;
+    }
+    if (ui->textEdit->toPlainText().isEmpty()) {
+        warn(QStringLiteral("Please supply some Symbols Key Text, thanks."));
+        return false;
+    }
+    if (!SymRefFiles::staysInDirectory(instrument)) {
+        warn(
+            QStringLiteral("Please use letters and numbers only for the Instrument Name, thanks."));
+        return false;
+    }
+    return true;
+}
+
+void SymRefDialog::warn(const QString &text)
+{
+    QMessageBox::warning(this, QStringLiteral("Tonquill"), text);
+}
+
+void SymRefDialog::on_pb_cancel_clicked()
+{
+    reject();
+}

@@ -1,0 +1,256 @@
+#include "Records.h"
+
+#include <QHash>
+#include <QVarLengthArray>
+
+namespace
+{
+const QString textblockEnd = QStringLiteral("tonquill_textblock_end");
+
+/** No kind has more fields; the simple text has nine after its keyword. */
+constexpr qsizetype mostFields = 9;
+
+/** The first fields of a record, without its keyword. */
+class Fields
+{
+public:
+    /** Splits `text` at every blank; two blanks in a row have an empty field between them. */
+    explicit Fields(QStringView text)
+    {
+        while (m_fields.size() < mostFields) {
+            const qsizetype blank = text.indexOf(u' ');
+            m_fields.append(blank < 0 ? text : text.first(blank));
+            if (blank < 0)
+                break;
+            text = text.sliced(blank + 1);
+        }
+    }
+
+    qsizetype count() const { return m_fields.size(); }
+    int number(qsizetype index) const { return m_fields[index].toInt(); }
+    uint hexNumber(qsizetype index) const
+    {
+        return static_cast<uint>(m_fields[index].toInt(nullptr, 16));
+    }
+    QString text(qsizetype index) const { return m_fields[index].toString(); }
+
+private:
+    QVarLengthArray<QStringView, mostFields> m_fields;
+};
+
+using Records::Record;
+
+Record parseBitmap(const QString &, QStringView rest)
+{
+    const Fields fields(rest);
+    if (fields.count() < 4)
+        return {};
+    return Records::Bitmap{fields.number(0), fields.number(1), fields.number(2),
+                           fields.number(3) != 0};
+}
+
+Record parseTimeSig(const QString &, QStringView rest)
+{
+    const Fields fields(rest);
+    if (fields.count() < 4)
+        return {};
+    return Records::TimeSig{fields.number(0), fields.number(1), fields.number(2), fields.number(3)};
+}
+
+Record parseVector(const QString &keyword, QStringView rest)
+{
+    const Fields fields(rest);
+    if (fields.count() < 6)
+        return {};
+    return Records::Vector{keyword,          fields.number(0), fields.number(1), fields.number(2),
+                           fields.number(3), fields.number(4), fields.number(5)};
+}
+
+Record parseText(const QString &, QStringView rest)
+{
+    const Fields fields(rest);
+    if (fields.count() < 9)
+        return {};
+    // The colour was written with its alpha, eight hexadecimal digits, which no int holds: it
+    // reads as 0. The angle is read as a whole number. Both are meant.
+    return Records::Text{fields.number(0), fields.number(1),    fields.number(2),
+                         fields.number(3), fields.text(4),      fields.text(5),
+                         fields.number(6), fields.hexNumber(7), double(fields.number(8))};
+}
+
+Record parseTextBlock(const QString &, QStringView rest)
+{
+    const qsizetype lineBreak = rest.indexOf(u'\n');
+    if (lineBreak < 0)
+        return {};
+    const QStringView body = rest.sliced(lineBreak + 1);
+    const qsizetype end = body.indexOf(textblockEnd);
+    const Fields header(rest.first(lineBreak));
+    if (end < 0 || header.count() < 4)
+        return {};
+    return Records::TextBlock{header.number(0), header.number(1), header.number(2),
+                              header.number(3), body.first(end).toString()};
+}
+
+using Parser = Record (*)(const QString &keyword, QStringView rest);
+
+const QHash<QString, Parser> &parsers()
+{
+    static const QHash<QString, Parser> table{
+        {Records::bitmapKeyword(), parseBitmap},
+        {Records::timesigKeyword(), parseTimeSig},
+        {Records::grandstaffKeyword(), parseVector},
+        {Records::interactivelineKeyword(), parseVector},
+        {Records::linetabKeyword(), parseVector},
+        {Records::notetieKeyword(), parseVector},
+        {Records::tripletKeyword(), parseVector},
+        {Records::textKeyword(), parseText},
+        {Records::textblockKeyword(), parseTextBlock},
+    };
+    return table;
+}
+
+/**
+ * Puts fields together with one blank between them. User text goes in as it stands: a chain of
+ * QString::arg would replace a "%2" that the user typed.
+ */
+class RecordLine
+{
+public:
+    explicit RecordLine(const QString &keyword)
+    {
+        m_line.reserve(64);
+        m_line += keyword;
+    }
+
+    RecordLine &operator<<(int number)
+    {
+        m_line += u' ';
+        m_line += QString::number(number);
+        return *this;
+    }
+
+    RecordLine &operator<<(const QString &text)
+    {
+        m_line += u' ';
+        m_line += text;
+        return *this;
+    }
+
+    QString ended()
+    {
+        m_line += u'\n';
+        return std::move(m_line);
+    }
+
+private:
+    QString m_line;
+};
+} // namespace
+
+QString Records::bitmapKeyword()
+{
+    return QStringLiteral("tonquill_bitmap");
+}
+
+QString Records::timesigKeyword()
+{
+    return QStringLiteral("tonquill_timesig");
+}
+
+QString Records::grandstaffKeyword()
+{
+    return QStringLiteral("tonquill_grandstaff");
+}
+
+QString Records::interactivelineKeyword()
+{
+    return QStringLiteral("tonquill_interactiveline");
+}
+
+QString Records::linetabKeyword()
+{
+    return QStringLiteral("tonquill_linetab");
+}
+
+QString Records::notetieKeyword()
+{
+    return QStringLiteral("tonquill_notetie");
+}
+
+QString Records::tripletKeyword()
+{
+    return QStringLiteral("tonquill_triplet");
+}
+
+QString Records::textKeyword()
+{
+    return QStringLiteral("tonquill_text");
+}
+
+QString Records::textblockKeyword()
+{
+    return QStringLiteral("tonquill_textblock_begin");
+}
+
+QString Records::keywordOf(const QString &record)
+{
+    const qsizetype blank = record.indexOf(u' ');
+    return blank > 0 ? record.first(blank) : QString();
+}
+
+Records::Record Records::parse(const QString &record)
+{
+    const QString keyword = keywordOf(record);
+    const Parser parser = parsers().value(keyword, nullptr);
+    if (!parser)
+        return {};
+    return parser(keyword, QStringView(record).sliced(keyword.size() + 1));
+}
+
+QString Records::pageCountLine(int pageCount)
+{
+    return (RecordLine(QStringLiteral("tonquill_pagecount")) << pageCount).ended();
+}
+
+QString Records::format(const Bitmap &record)
+{
+    return (RecordLine(bitmapKeyword())
+            << record.symbolId << record.x << record.y << (record.inverted ? 1 : 0))
+        .ended();
+}
+
+QString Records::format(const TimeSig &record)
+{
+    return (RecordLine(timesigKeyword())
+            << record.x << record.y << record.numerator << record.denominator)
+        .ended();
+}
+
+QString Records::format(const Vector &record)
+{
+    return (RecordLine(record.keyword)
+            << record.x << record.y << record.startX << record.startY << record.endX << record.endY)
+        .ended();
+}
+
+QString Records::format(const Text &record)
+{
+    return (RecordLine(textKeyword())
+            << record.x << record.y << record.width << record.height << record.text << record.family
+            << record.pointSize << QString::number(record.color, 16)
+            << QString::number(record.rotation))
+        .ended();
+}
+
+QString Records::format(const TextBlock &record)
+{
+    QString result =
+        (RecordLine(textblockKeyword()) << record.x << record.y << record.width << record.height)
+            .ended();
+    result += record.text;
+    result += u'\n';
+    result += textblockEnd;
+    result += u'\n';
+    return result;
+}

@@ -1,0 +1,105 @@
+#pragma once
+
+#include <QRgb>
+#include <QString>
+
+#include <variant>
+
+/**
+ * The document's text records, written and read. Pure functions: no item, no scene.
+ *
+ * A record is a line of fields with one blank between them, the first a keyword; only a text
+ * block's record spans several lines. Coordinates and sizes are whole scene units.
+ *
+ * What is written is not always what is read back, and that is meant: a simple text of several
+ * words loses all but the first and reads its later fields from the wrong places, its colour does
+ * not fit the number it is read as and comes back black, its fractional angle comes back as 0,
+ * and a text block gains the line break in front of its end keyword.
+ */
+namespace Records
+{
+QString bitmapKeyword();
+QString timesigKeyword();
+QString grandstaffKeyword();
+QString interactivelineKeyword();
+QString linetabKeyword();
+QString notetieKeyword();
+QString tripletKeyword();
+QString textKeyword();
+QString textblockKeyword();
+
+/** A glyph. */
+struct Bitmap
+{
+    int symbolId;
+    int x;
+    int y;
+    bool inverted;
+};
+
+/** A time signature. */
+struct TimeSig
+{
+    int x;
+    int y;
+    int numerator;
+    int denominator;
+};
+
+/** A figure between two points, which are relative to (x, y). */
+struct Vector
+{
+    QString keyword;
+    int x;
+    int y;
+    int startX;
+    int startY;
+    int endX;
+    int endY;
+};
+
+/** A simple text. */
+struct Text
+{
+    int x;
+    int y;
+    int width;
+    int height;
+    QString text;
+    QString family;
+    int pointSize;
+    QRgb color;
+    double rotation; ///< degrees; only whole ones are read back
+};
+
+/** A text block. */
+struct TextBlock
+{
+    int x;
+    int y;
+    int width;
+    int height;
+    QString text;
+};
+
+/** One record as read; empty if nothing is to be built from it. */
+using Record = std::variant<std::monostate, Bitmap, TimeSig, Vector, Text, TextBlock>;
+
+/**
+ * Reads one record. Fields that are not numbers read as 0 and surplus ones are ignored; an unknown
+ * keyword, too few fields, or a text block without its end gives an empty Record.
+ */
+Record parse(const QString &record);
+
+/** The keyword of a record: the text before its first blank, or nothing. */
+QString keywordOf(const QString &record);
+
+/** The line with which a document begins. */
+QString pageCountLine(int pageCount);
+
+QString format(const Bitmap &record);
+QString format(const TimeSig &record);
+QString format(const Vector &record);
+QString format(const Text &record);
+QString format(const TextBlock &record);
+} // namespace Records

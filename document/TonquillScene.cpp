@@ -1,0 +1,90 @@
+#include "TonquillScene.h"
+
+#include "Logging.h"
+#include "PageGeometry.h"
+#include "TonquillMainWin.h"
+
+#include <QPrinter>
+
+#include <algorithm>
+#include <iterator>
+
+namespace
+{
+/** From this number on, removing items in any order costs more than sorting them first. */
+constexpr qsizetype manyItems = 32;
+
+/** Below every z value that the document uses. */
+constexpr qreal belowAllItems = -1.0e6;
+} // namespace
+
+TonquillScene::TonquillScene(QObject *parent)
+    : QGraphicsScene(parent)
+{
+    const QPrinter &printer = g_pMainWin->sharedPrinter();
+    const QRectF paper = printer.paperRect(QPrinter::Inch);
+    const QMarginsF margins = printer.pageLayout().margins(QPageLayout::Inch);
+    paperRect = PageGeometry::paperRect(paper);
+    pageRect = PageGeometry::pageRect(paper, margins);
+    pageSpacing = PageGeometry::spacing(paperRect.height());
+    qCDebug(lcTonquill) << "ml " << margins.left() << "mt " << margins.top() << "mr "
+                        << margins.right() << "mb " << margins.bottom();
+    qCDebug(lcTonquill) << "Printer rect:" << paperRect << "page rect:" << pageRect;
+    addPage();
+}
+
+TonquillScene::~TonquillScene()
+{
+    for (const QPointer<QObject> &dropped : std::as_const(m_dropped))
+        delete dropped.data();
+}
+
+void TonquillScene::addNewItem(QGraphicsItem *item)
+{
+    addItem(item);
+    m_lastAdded = ItemReference(item);
+}
+
+void TonquillScene::itemAwaitsPlacing(QGraphicsItem *item, QObject *object)
+{
+    Q_UNUSED(object);
+    m_waiting.append(ItemReference(item));
+}
+
+bool TonquillScene::isNewItemIsAdding()
+{
+    m_waiting.removeIf([this](const ItemReference &waiting) {
+        return !waiting.get(this) || waiting.object()->property("itemStatus").toInt() !=
+                                         static_cast<int>(ItemStatus::Adding);
+    });
+    // The first of items() is the topmost one: the highest, and of equals the latest.
+    const auto topmost = std::max_element(m_waiting.crbegin(), m_waiting.crend(),
+                                          [this](const ItemReference &a, const ItemReference &b) {
+                                              return a.get(this)->zValue() < b.get(this)->zValue();
+                                          });
+    if (topmost == m_waiting.crend())
+        return false;
+    removeItem(topmost->get(this));
+    m_dropped.append(topmost->object());
+    m_waiting.erase(std::next(topmost).base());
+    return false;
+}
+
+void TonquillScene::destroyItems(const QList<QGraphicsItem *> &items)
+{
+    if (items.size() < manyItems) {
+        qDeleteAll(items);
+        update();
+        return;
+    }
+    // The toolkit looks each item up in its list of top-level items, from the front. With those
+    // that go at the front, in their order, every one is found at once; in any other order the
+    // cost would grow with the square of their number.
+    for (QGraphicsItem *item : items)
+        item->setZValue(belowAllItems);
+    const QSet<QGraphicsItem *> doomed(items.cbegin(), items.cend());
+    QList<QGraphicsItem *> inOrder = this->items(Qt::AscendingOrder);
+    inOrder.removeIf([&doomed](QGraphicsItem *item) { return !doomed.contains(item); });
+    qDeleteAll(inOrder);
+    update();
+}

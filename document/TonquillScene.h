@@ -1,0 +1,154 @@
+#pragma once
+
+#include "ItemModel.h"
+#include "ItemReference.h"
+#include "Records.h"
+
+#include <QGraphicsScene>
+#include <QPointer>
+#include <QStringList>
+
+class QGraphicsTextItem;
+class TonquillText;
+class TonquillTextBlock;
+
+/**
+ * The document: a vertical stack of equal pages and every item on them.
+ *
+ * There is no page object; a page is a band of scene coordinates. The number of pages is kept by
+ * the main window. The scene writes the document as records and builds items from them, and it is
+ * the dispatcher of every pointer and key event: events go to the selected items, which act by
+ * their itemStatus. It owns its items, those that it dropped half-placed included.
+ */
+class TonquillScene : public QGraphicsScene, private ItemRegistry
+{
+    Q_OBJECT
+
+public:
+    /** The offset with which constructItem() puts the item at the mouse cursor. */
+    static constexpr int atCursor = -65535;
+
+    /** Reads paper and margins from the main window's printer and adds the first page. */
+    explicit TonquillScene(QObject *parent = nullptr);
+    ~TonquillScene() override;
+
+    // Pages. Numbers begin at 1 and are not range-checked.
+
+    QRectF paperRect;       ///< the outer sheet of the first page, scene units
+    QRectF pageRect;        ///< its printable area inside the margins, scene units
+    double pageSpacing = 0; ///< the empty band between two pages, scene units
+
+    /** From the top of one page to the top of the next, scene units. */
+    double pagePitch() const { return paperRect.height() + pageSpacing; }
+
+    /** One more page at the end, without touching items. */
+    void addPage();
+    /** Sets the number of pages, without touching items. */
+    void setPageNum(int n);
+    /** The scene y of the top of page `n`. */
+    float getCoordByPageNum(int n) const;
+    /** The page at a point; the lowest quarter of a page and the gap count as the next one. */
+    int getPageAt(QPointF p) const;
+    void addPageBeforeCurPage(int cur);
+    void addPageAfterCurPage(int cur);
+    void addPageAtBegining();
+    void addPageAtEnd();
+    /** Deletes the page with its items; the last page is only emptied. */
+    void deletePage(int page);
+    /** Deletes every item and all pages but one. */
+    void clearScene();
+    /** Outlines page `index`, counted from 0, and its printable area. */
+    void DrawPageBoundary(QPainter *painter, int index);
+    void drawBackground(QPainter *painter, const QRectF &rect) override;
+    void drawForeground(QPainter *painter, const QRectF &rect) override;
+
+    // Records
+
+    /** The whole document: the page-count line and a record for each item. */
+    QString notifyTW();
+
+    /**
+     * Builds one item from a record, or nothing if the record is none. The item stands `offset`
+     * right of and below its recorded position (a simple text twice that), or at the mouse cursor
+     * for `atCursor`. With `adding` it follows the pointer until it is placed.
+     */
+    void constructItem(const QString &record, bool adding, int offset);
+
+    // Items
+
+    /** Adds the item, which the scene then owns, and remembers it as the last added one. */
+    void addNewItem(QGraphicsItem *item);
+
+    /**
+     * Takes the topmost item that waits to be placed off the scene, without destroying it. False
+     * in every case: callers ask before they make a new item, so that only one waits.
+     */
+    bool isNewItemIsAdding();
+
+    /** Builds a copy of every record that was copied so far, moved by 30. */
+    void onPaste();
+
+    /** Removes and destroys items without a parent, in time linear in their number. */
+    void destroyItems(const QList<QGraphicsItem *> &items);
+
+public Q_SLOTS:
+    /** Opens the context menu of a simple text at the cursor. */
+    void onTextItemContextMenu(TonquillText *item);
+    /** Edits the text whose context menu was opened, in the text dialog. */
+    void onEditTextItem();
+
+protected:
+    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    // Pages
+    void resizeToPages();
+    void insertPageAt(double top);
+    QList<QGraphicsItem *> topLevelItemsIn(const QRectF &area) const;
+
+    // Records
+    void build(const Records::Record &record, bool adding, int offset);
+    void buildBitmap(const Records::Bitmap &record, bool adding, int offset);
+    void buildText(const Records::Text &record, bool adding, int offset);
+    void place(QGraphicsItem *item, int x, int y, int offset);
+    QPointF cursorPosition() const;
+    static QString recordOf(QObject *item);
+
+    // Items
+    void itemAwaitsPlacing(QGraphicsItem *item, QObject *object) override;
+
+    // Pointer
+    QGraphicsItem *itemUnder(QPointF scenePos) const;
+    bool leaveOrKeepTextBlock(QGraphicsSceneMouseEvent *event);
+    TonquillTextBlock *editedBlockAt(QPointF scenePos) const;
+    void pressLeft(QGraphicsSceneMouseEvent *event);
+    void releaseLeft(QGraphicsSceneMouseEvent *event, QGraphicsItem *served);
+    void startRubberBand(QPointF scenePos);
+    void selectByRubberBand();
+    void forwardToSelection(QEvent *event, QGraphicsItem *except = nullptr);
+    void moveQuickTextBlock(QPointF scenePos);
+
+    // Keyboard
+    void setRestMode(bool on);
+    void startQuickTextBlock();
+    bool isAnyItemEdited() const;
+    bool isSelectedItemEdited() const;
+    void deleteSelection();
+    void copySelection();
+    void addSameItem();
+
+    ItemReference m_lastAdded;
+    QList<ItemReference> m_waiting;       ///< items that were added to be placed
+    QList<QPointer<QObject>> m_dropped;   ///< taken off half-placed, still owned
+    QPointer<TonquillText> m_contextText; ///< whose context menu is open, or was
+    QPointer<TonquillTextBlock> m_quickTextBlock;
+    QStringList m_copyBuffer;
+    bool m_rubberBandVisible = false;
+    QRectF m_rubberBand; ///< scene coordinates; its size may be negative
+};

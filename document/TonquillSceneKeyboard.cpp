@@ -1,0 +1,181 @@
+#include "Logging.h"
+#include "TonquillMainWin.h"
+#include "TonquillScene.h"
+#include "TonquillTextBlock.h"
+
+#include <QGraphicsTextItem>
+#include <QKeyEvent>
+
+#include <algorithm>
+
+namespace
+{
+constexpr qreal nudge = 1.0;
+constexpr int pasteOffset = 30;
+
+/** Letters, digits and punctuation; letters have the key codes of their upper-case forms. */
+bool startsQuickText(int key)
+{
+    return key >= Qt::Key_Space && key <= Qt::Key_Z;
+}
+
+QPointF nudgeBy(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return QPointF(-nudge, 0);
+    case Qt::Key_Right:
+        return QPointF(nudge, 0);
+    case Qt::Key_Up:
+        return QPointF(0, -nudge);
+    case Qt::Key_Down:
+        return QPointF(0, nudge);
+    default:
+        return QPointF();
+    }
+}
+
+bool isTextBeingEdited(const QGraphicsItem *item)
+{
+    const auto *text = dynamic_cast<const QGraphicsTextItem *>(item);
+    return text && TonquillTextBlock::isEdited(*text);
+}
+} // namespace
+
+void TonquillScene::keyPressEvent(QKeyEvent *event)
+{
+    qCDebug(lcPointer) << "key press" << event->key() << event->isAutoRepeat();
+    if (event->key() == Qt::Key_Control) {
+        setRestMode(true);
+        return;
+    }
+    if (g_pMainWin->quickText && startsQuickText(event->key())) {
+        if (!isAnyItemEdited())
+            startQuickTextBlock();
+        QGraphicsScene::keyPressEvent(event);
+        return;
+    }
+    if (event->key() == Qt::Key_F5) {
+        g_pMainWin->onQuickTextAction(!g_pMainWin->quickText);
+        if (!g_pMainWin->quickText)
+            m_quickTextBlock.clear();
+        return;
+    }
+    const QPointF step = nudgeBy(event->key());
+    if (!step.isNull()) {
+        if (isSelectedItemEdited()) {
+            // The text cursor moves in the edited item, which takes its keys with the release.
+            QGraphicsScene::keyReleaseEvent(event);
+            return;
+        }
+        for (QGraphicsItem *item : selectedItems())
+            item->setPos(item->pos() + step);
+    }
+    QGraphicsScene::keyPressEvent(event);
+}
+
+void TonquillScene::setRestMode(bool on)
+{
+    g_pMainWin->restMode = on;
+    g_pMainWin->swapTb2();
+}
+
+/** Lays the block that takes what is typed, at the pointer. It begins with one blank. */
+void TonquillScene::startQuickTextBlock()
+{
+    auto *block = new TonquillTextBlock(false, QStringLiteral(" "), QRectF(0, 0, 0, 0));
+    m_quickTextBlock = block;
+    addNewItem(block);
+    block->setPos(cursorPosition());
+    block->setSelected(true);
+    block->setTextInteractionFlags(Qt::TextEditorInteraction);
+    block->setFocus();
+    block->adjustSize();
+    block->updateFrame();
+}
+
+void TonquillScene::keyReleaseEvent(QKeyEvent *event)
+{
+    qCDebug(lcPointer) << "key release" << event->key() << event->isAutoRepeat();
+    const int key = event->key();
+    if (key == Qt::Key_Delete || key == Qt::Key_Backspace) {
+        if (isSelectedItemEdited())
+            QGraphicsScene::keyReleaseEvent(event);
+        else
+            deleteSelection();
+    } else if (event->matches(QKeySequence::Copy)) {
+        copySelection();
+    } else if (event->matches(QKeySequence::Paste)) {
+        qCDebug(lcTonquill) << "paste items";
+        onPaste();
+    } else if (key == Qt::Key_Control) {
+        setRestMode(false);
+    } else if (key == Qt::Key_Space) {
+        if (isAnyItemEdited())
+            QGraphicsScene::keyReleaseEvent(event);
+        else
+            addSameItem();
+    } else {
+        QGraphicsScene::keyReleaseEvent(event);
+    }
+}
+
+/** The keyboard goes elsewhere, and with it the news that Ctrl was let go. */
+void TonquillScene::focusOutEvent(QFocusEvent *event)
+{
+    if (g_pMainWin && g_pMainWin->restMode)
+        setRestMode(false);
+    QGraphicsScene::focusOutEvent(event);
+}
+
+/** The likely items are asked first: with every letter that is typed, one of them is it. */
+bool TonquillScene::isAnyItemEdited() const
+{
+    if (isTextBeingEdited(focusItem()) || isSelectedItemEdited())
+        return true;
+    const QList<QGraphicsItem *> all = items();
+    return std::any_of(all.cbegin(), all.cend(), isTextBeingEdited);
+}
+
+bool TonquillScene::isSelectedItemEdited() const
+{
+    const QList<QGraphicsItem *> selected = selectedItems();
+    return std::any_of(selected.cbegin(), selected.cend(), isTextBeingEdited);
+}
+
+void TonquillScene::deleteSelection()
+{
+    const QList<QGraphicsItem *> selected = selectedItems();
+    if (selected.isEmpty())
+        return;
+    destroyItems(selected);
+    g_pMainWin->notifyTW();
+}
+
+/** The copy buffer is never emptied: a paste makes everything that was copied so far. */
+void TonquillScene::copySelection()
+{
+    qCDebug(lcTonquill) << "copy items";
+    for (QGraphicsItem *item : selectedItems()) {
+        if (QObject *object = ItemReference::objectOf(item))
+            m_copyBuffer.append(recordOf(object));
+    }
+}
+
+void TonquillScene::onPaste()
+{
+    const QStringList records = m_copyBuffer;
+    for (const QString &record : records)
+        constructItem(record, false, pasteOffset);
+}
+
+/** Makes one more item like the last one that was added, following the pointer. */
+void TonquillScene::addSameItem()
+{
+    QGraphicsItem *last = m_lastAdded.get(this);
+    if (!last)
+        return;
+    const QString record = recordOf(m_lastAdded.object());
+    qCDebug(lcRecords) << "params=" << record;
+    constructItem(record, true, atCursor);
+}

@@ -1,0 +1,133 @@
+#include "Logging.h"
+#include "PaperPainting.h"
+#include "TonquillMainWin.h"
+#include "TonquillScene.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+void TonquillScene::resizeToPages()
+{
+    setSceneRect(0, 0, paperRect.width(), g_pMainWin->pageCount * pagePitch());
+}
+
+void TonquillScene::addPage()
+{
+    setPageNum(g_pMainWin->pageCount + 1);
+}
+
+void TonquillScene::setPageNum(int n)
+{
+    g_pMainWin->pageCount = n;
+    resizeToPages();
+}
+
+float TonquillScene::getCoordByPageNum(int n) const
+{
+    return static_cast<float>((n - 1) * pagePitch());
+}
+
+int TonquillScene::getPageAt(QPointF p) const
+{
+    return truncatedToInt((0.25 * paperRect.height() + p.y()) / pagePitch() + 1.0);
+}
+
+void TonquillScene::addPageBeforeCurPage(int cur)
+{
+    insertPageAt((cur - 1) * pagePitch());
+}
+
+void TonquillScene::addPageAfterCurPage(int cur)
+{
+    insertPageAt(cur * pagePitch());
+}
+
+void TonquillScene::addPageAtBegining()
+{
+    insertPageAt(0);
+}
+
+void TonquillScene::addPageAtEnd()
+{
+    insertPageAt(g_pMainWin->pageCount * pagePitch());
+}
+
+/** Items are found by their shape, so one that only reaches below `top` moves down as well. */
+void TonquillScene::insertPageAt(double top)
+{
+    ++g_pMainWin->pageCount;
+    const QRectF old = sceneRect();
+    const QRectF area(0, truncatedToInt(top), paperRect.width(), old.height());
+    setSceneRect(0, 0, old.width(), old.height() + pagePitch());
+    for (QGraphicsItem *item : topLevelItemsIn(area))
+        item->setPos(item->x() + 0.0, item->y() + pagePitch());
+}
+
+void TonquillScene::deletePage(int page)
+{
+    destroyItems(topLevelItemsIn(QRectF(0, truncatedToInt((page - 1) * pagePitch()),
+                                        paperRect.width(), paperRect.height())));
+    if (g_pMainWin->pageCount < 2)
+        return;
+    --g_pMainWin->pageCount;
+    const QRectF old = sceneRect();
+    // The shift is meant: items land two gaps lower on their new page than they stood before.
+    const double shift = pageSpacing - paperRect.height();
+    const QRectF area(0, truncatedToInt(page * pagePitch()), paperRect.width(), old.height());
+    for (QGraphicsItem *item : topLevelItemsIn(area))
+        item->setPos(item->x() + 0.0, item->y() + shift);
+    setSceneRect(0, 0, old.width(), old.height() - pagePitch());
+}
+
+void TonquillScene::clearScene()
+{
+    m_lastAdded = ItemReference();
+    m_contextText.clear();
+    m_quickTextBlock.clear();
+    m_waiting.clear();
+    clearSelection();
+    clear();
+    if (g_pMainWin->pageCount < 2)
+        return;
+    g_pMainWin->pageCount = 1;
+    // One gap less than the page, on purpose; the next page operation sets the normal height.
+    setSceneRect(0, 0, sceneRect().width(), paperRect.height() - pageSpacing);
+}
+
+QList<QGraphicsItem *> TonquillScene::topLevelItemsIn(const QRectF &area) const
+{
+    QList<QGraphicsItem *> result = items(area, Qt::IntersectsItemShape);
+    result.removeIf([](const QGraphicsItem *item) { return item->parentItem() != nullptr; });
+    return result;
+}
+
+void TonquillScene::drawBackground(QPainter *painter, const QRectF &rect)
+{
+    // The painter goes on to the items, which must not inherit the grey pen.
+    painter->save();
+    const int pages = g_pMainWin->pageCount;
+    const int first = qMax(0, truncatedToInt(std::floor(rect.top() / pagePitch())) - 1);
+    const int last = qMin(pages - 1, truncatedToInt(std::floor(rect.bottom() / pagePitch())) + 1);
+    for (int i = first; i <= last; ++i)
+        DrawPageBoundary(painter, i);
+    painter->restore();
+}
+
+void TonquillScene::DrawPageBoundary(QPainter *painter, int index)
+{
+    const double top = index * pagePitch();
+    painter->setPen(PaperPainting::linePen(*painter, QColor(192, 192, 192, 255)));
+    painter->drawRect(QRectF(paperRect.x(), top, paperRect.width(), paperRect.height()));
+    painter->drawRect(
+        QRectF(pageRect.x(), top + pageRect.y(), pageRect.width(), pageRect.height()));
+}
+
+void TonquillScene::drawForeground(QPainter *painter, const QRectF &)
+{
+    if (!m_rubberBandVisible)
+        return;
+    painter->setPen(QPen(Qt::black, 0, Qt::DashLine));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(m_rubberBand);
+}

@@ -1,0 +1,122 @@
+#include "ItemFactory.h"
+#include "Logging.h"
+#include "TonquillBitmap.h"
+#include "TonquillMainWin.h"
+#include "TonquillScene.h"
+#include "TonquillText.h"
+#include "TonquillTextBlock.h"
+#include "TonquillTimeSig.h"
+
+#include <QCursor>
+#include <QGraphicsView>
+
+QString TonquillScene::notifyTW()
+{
+    QString document = Records::pageCountLine(g_pMainWin->pageCount);
+    for (QGraphicsItem *item : items()) {
+        if (QObject *object = ItemReference::objectOf(item)) {
+            const QString record = recordOf(object);
+            qCDebug(lcRecords).noquote() << record;
+            document += record;
+        }
+    }
+    return document;
+}
+
+/** An item without a record, such as a plain picture that a host's extension laid, gives "". */
+QString TonquillScene::recordOf(QObject *item)
+{
+    QString record;
+    QMetaObject::invokeMethod(item, "getParamStr", Qt::DirectConnection,
+                              Q_RETURN_ARG(QString, record));
+    return record;
+}
+
+void TonquillScene::constructItem(const QString &record, bool adding, int offset)
+{
+    qCDebug(lcRecords) << "conxtructitem itemname" << Records::keywordOf(record);
+    build(Records::parse(record), adding, offset);
+}
+
+namespace
+{
+/** Overloaded lambdas for std::visit. */
+template <typename... Visitors>
+struct Overloaded : Visitors...
+{
+    using Visitors::operator()...;
+};
+} // namespace
+
+void TonquillScene::build(const Records::Record &parsed, bool adding, int offset)
+{
+    const auto addAndPlace = [this, offset](QGraphicsItem *item, const auto &record) {
+        addNewItem(item);
+        place(item, record.x, record.y, offset);
+    };
+    std::visit(Overloaded{
+                   [](std::monostate) {},
+                   [&](const Records::Bitmap &record) { buildBitmap(record, adding, offset); },
+                   [&](const Records::Text &record) { buildText(record, adding, offset); },
+                   [&](const Records::TimeSig &record) {
+                       addAndPlace(
+                           new TonquillTimeSig(record.numerator, record.denominator, adding),
+                           record);
+                   },
+                   [&](const Records::Vector &record) {
+                       addAndPlace(ItemFactory::makeVectorItem(record, adding), record);
+                   },
+                   [&](const Records::TextBlock &record) {
+                       qCDebug(lcRecords) << "txt=" << record.text;
+                       const QRectF rect(record.x, record.y, record.width, record.height);
+                       addAndPlace(new TonquillTextBlock(adding, record.text, rect), record);
+                   },
+               },
+               parsed);
+}
+
+void TonquillScene::buildBitmap(const Records::Bitmap &record, bool adding, int offset)
+{
+    TonquillBitmap *item = g_pMainWin->InsertBitmapSymbol(record.symbolId, adding, true);
+    if (!item)
+        return;
+    item->setInverted(record.inverted);
+    place(item, record.x, record.y, offset);
+}
+
+void TonquillScene::buildText(const Records::Text &record, bool adding, int offset)
+{
+    QFont font;
+    font.setFamily(record.family);
+    font.setPointSize(record.pointSize);
+    auto *item = new TonquillText(adding);
+    item->setFont(font);
+    item->setPlainText(record.text);
+    item->setDefaultTextColor(QColor(record.color));
+    item->setSelected(adding);
+    connect(item, SIGNAL(showTextItemMenu(TonquillText *)), this,
+            SLOT(onTextItemContextMenu(TonquillText *)));
+    addNewItem(item);
+    item->setRotation(record.rotation);
+    item->updateFrame();
+    // A simple text gets the offset twice. That is meant.
+    place(item, record.x, record.y, offset == atCursor ? atCursor : 2 * offset);
+    update();
+}
+
+void TonquillScene::place(QGraphicsItem *item, int x, int y, int offset)
+{
+    if (offset == atCursor)
+        item->setPos(cursorPosition());
+    else
+        item->setPos(double(x) + offset, double(y) + offset);
+}
+
+/** The mouse cursor in scene coordinates, as the first view maps it. */
+QPointF TonquillScene::cursorPosition() const
+{
+    if (views().isEmpty())
+        return QPointF();
+    const QGraphicsView *view = views().constFirst();
+    return view->mapToScene(view->mapFromGlobal(QCursor::pos()));
+}

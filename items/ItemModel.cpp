@@ -1,0 +1,46 @@
+#include "ItemModel.h"
+
+#include <QGraphicsScene>
+#include <QGraphicsSceneMouseEvent>
+
+void ItemModel::announceToScene(QGraphicsItem::GraphicsItemChange change, QGraphicsItem *item,
+                                QObject *object, ItemStatus status)
+{
+    if (change != QGraphicsItem::ItemSceneHasChanged || status != ItemStatus::Adding)
+        return;
+    if (auto *registry = dynamic_cast<ItemRegistry *>(item->scene()))
+        registry->itemAwaitsPlacing(item, object);
+}
+
+bool ItemModel::onlyLeftButtonHeld(const QGraphicsSceneMouseEvent &event)
+{
+    return event.buttons() == Qt::LeftButton;
+}
+
+bool ItemModel::onlyRightButtonHeld(const QGraphicsSceneMouseEvent &event)
+{
+    return event.buttons() == Qt::RightButton;
+}
+
+void ItemModel::dragBy(QGraphicsItem *item, const QGraphicsSceneMouseEvent &event,
+                       QPointF &lastPointer)
+{
+    item->setPos(item->pos() + event.scenePos() - lastPointer);
+    lastPointer = event.scenePos();
+}
+
+void ItemModel::takeMouseGrab(QGraphicsItem *item)
+{
+    QGraphicsScene *scene = item->scene();
+    if (!scene || scene->mouseGrabberItem() == item)
+        return;
+    if (QGraphicsItem *other = scene->mouseGrabberItem())
+        other->ungrabMouse();
+    item->grabMouse();
+}
+
+void ItemModel::releaseMouseGrab(QGraphicsItem *item)
+{
+    if (item->scene() && item->scene()->mouseGrabberItem() == item)
+        item->ungrabMouse();
+}

@@ -1,0 +1,55 @@
+#include "PaperPainting.h"
+
+#include <QPainter>
+#include <QPrinter>
+
+namespace
+{
+/** The resolution of a desktop screen: one of its pixels is a scene unit at 100 %. */
+constexpr qreal screenDotsPerInch = 96.0;
+constexpr qreal pointsPerInch = 72.0;
+} // namespace
+
+bool PaperPainting::isPrinter(const QPainter &painter)
+{
+    return dynamic_cast<QPrinter *>(painter.device()) != nullptr;
+}
+
+QStyleOptionGraphicsItem PaperPainting::optionFor(const QPainter &painter,
+                                                  const QStyleOptionGraphicsItem &option)
+{
+    QStyleOptionGraphicsItem result(option);
+    if (isPrinter(painter))
+        result.state = QStyle::State_None;
+    return result;
+}
+
+QPen PaperPainting::linePen(const QPainter &painter, const QColor &color)
+{
+    const qreal width =
+        isPrinter(painter) ? painter.device()->logicalDpiX() / screenDotsPerInch : 0.0;
+    QPen pen(color, width);
+    pen.setCosmetic(true);
+    return pen;
+}
+
+QFont PaperPainting::inSceneUnits(const QFont &font)
+{
+    QFont result(font);
+    if (font.pointSizeF() > 0)
+        result.setPixelSize(qMax(1, qRound(font.pointSizeF() * screenDotsPerInch / pointsPerInch)));
+    return result;
+}
+
+void PaperPainting::drawSelectionOutline(QPainter *painter, const QRectF &bounds,
+                                         const QStyleOptionGraphicsItem &option)
+{
+    const QColor dashes = option.palette.windowText().color();
+    const QColor ground(dashes.red() > 127 ? 0 : 255, dashes.green() > 127 ? 0 : 255,
+                        dashes.blue() > 127 ? 0 : 255);
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(QPen(ground, 0, Qt::SolidLine));
+    painter->drawRect(bounds);
+    painter->setPen(QPen(dashes, 0, Qt::DashLine));
+    painter->drawRect(bounds);
+}

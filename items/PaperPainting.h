@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QFont>
+#include <QPen>
+#include <QStyleOptionGraphicsItem>
+
+class QPainter;
+
+/** What items paint differently on paper than on screen. */
+namespace PaperPainting
+{
+/** True if the painter draws on a QPrinter, be it paper, a PDF file or the print preview. */
+bool isPrinter(const QPainter &painter);
+
+/** The option to paint with: on paper without any state, so that no selection mark is printed. */
+QStyleOptionGraphicsItem optionFor(const QPainter &painter, const QStyleOptionGraphicsItem &option);
+
+/**
+ * The cosmetic pen of all lines: one device pixel on screen at any zoom. Paper has finer pixels,
+ * on which such a line could not be seen; there a line is 1/96 inch wide at every resolution.
+ */
+QPen linePen(const QPainter &painter, const QColor &color = Qt::black);
+
+/**
+ * `font` with its point size turned into scene units. An item's text must keep its size on the
+ * page, while points follow the dots per inch of whatever device is painted on.
+ */
+QFont inSceneUnits(const QFont &font);
+
+/** The two-coloured dashed outline with which the toolkit marks a selected item. */
+void drawSelectionOutline(QPainter *painter, const QRectF &bounds,
+                          const QStyleOptionGraphicsItem &option);
+} // namespace PaperPainting

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "ItemModel.h"
+#include "SelectionFrame.h"
+
+#include <QGraphicsPixmapItem>
+#include <QObject>
+#include <QPixmap>
+
+/**
+ * A glyph that the palette places as a picture: a note, rest, clef, accidental, repeat sign or
+ * pedal mark. It shows the normal or the inverted pixmap, centred on its position, and can be
+ * moved but not resized.
+ */
+class TonquillBitmap : public QObject, public QGraphicsPixmapItem
+{
+    Q_OBJECT
+    Q_PROPERTY(int itemStatus READ itemStatus)
+
+public:
+    enum { Type = UserType + 0 };
+
+    /**
+     * A glyph of `symbolId`. With `adding` it follows the pointer until it is placed. A null
+     * `invertedPixmap` makes a glyph that the right button cannot invert; a null `pixmap` makes
+     * one without a picture, whose record is written all the same.
+     */
+    TonquillBitmap(const QPixmap &pixmap, int symbolId, bool adding, QPixmap invertedPixmap,
+                   QGraphicsItem *parent = nullptr);
+
+    /** Shows the inverted pixmap or the normal one. Callers check that there is an inverted one. */
+    void setInverted(bool inverted);
+
+    int itemStatus() const { return static_cast<int>(m_itemStatus); }
+    int type() const override { return Type; }
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+
+public Q_SLOTS:
+    /** The item's record. */
+    QString getParamStr();
+
+Q_SIGNALS:
+    /** Declared for hosts of the item; nothing emits it. */
+    void itemChanged(QString record);
+
+protected:
+    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+    QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
+
+private:
+    bool canInvertNow() const;
+    void paintFine(QPainter *painter, const QImage &drawing,
+                   const QStyleOptionGraphicsItem &option) const;
+
+    ItemStatus m_itemStatus;
+    QPointF m_lastPointer;
+    SelectionFrame m_frame;
+    int m_symbolId;
+    QPixmap m_invertedPixmap;
+    QPixmap m_normalPixmap;
+    bool m_inverted = false;
+};

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "ItemModel.h"
+#include "SelectionFrame.h"
+
+#include <QGraphicsTextItem>
+
+class TonquillSimpleTextDlg;
+
+/**
+ * A one-line label in one font and colour, turned by an angle: a title, a tempo word, a syllable.
+ * It is never edited in place; a right press asks for its context menu, and its content and look
+ * are changed in the TonquillSimpleTextDlg.
+ */
+class TonquillText : public QGraphicsTextItem
+{
+    Q_OBJECT
+    Q_PROPERTY(int itemStatus READ itemStatus)
+
+public:
+    enum { Type = UserType + 1 };
+
+    /** An empty text, selected either way; with `adding` it follows the pointer. */
+    explicit TonquillText(bool adding, QGraphicsItem *parent = nullptr);
+
+    /** Adds the anchor, at the bottom-left corner. To be called once text and font are set. */
+    void updateFrame();
+
+    /** Moves the anchor to the bottom-left corner, after text or font were changed. */
+    void moveAnchorToCorner();
+
+    int itemStatus() const { return static_cast<int>(m_itemStatus); }
+    int type() const override { return Type; }
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+
+public Q_SLOTS:
+    /** The item's record. Bold, italic and underline are not part of it. */
+    QString getParamStr();
+
+Q_SIGNALS:
+    /** The right button was pressed on `item`, which is this one. */
+    void showTextItemMenu(TonquillText *item);
+
+protected:
+    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+    QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
+
+private:
+    ItemStatus m_itemStatus;
+    QPointF m_lastPointer;
+    SelectionFrame m_frame;
+};

@@ -1,0 +1,267 @@
+#include "TonquillTextBlock.h"
+
+#include "PaperPainting.h"
+#include "Records.h"
+
+#include <QCoreApplication>
+#include <QCursor>
+#include <QGraphicsSceneContextMenuEvent>
+#include <QGraphicsSceneMouseEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QTextCursor>
+#include <QTextDocument>
+
+#include <array>
+
+namespace
+{
+constexpr std::array pointSizes{8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 30, 32, 34, 36};
+
+constexpr int bottomRightAnchor = 1;
+
+/** The rectangle is this much wider than the text it holds. */
+constexpr qreal widthBesideText = 1.0;
+
+QString placeholder()
+{
+    return QStringLiteral("Text Block:\r\n\r\nSet the size with the Mouse.\r\n"
+                          "Double-click to Edit.");
+}
+} // namespace
+
+TonquillTextBlock::TonquillTextBlock(bool adding, const QString &text, const QRectF &rect,
+                                     QGraphicsItem *parent)
+    : QGraphicsTextItem(parent)
+    , m_itemStatus(adding ? ItemStatus::Adding : ItemStatus::Placed)
+    , m_frame(this)
+{
+    setFlags(ItemIsMovable | ItemIsSelectable);
+    setZValue(symbolZValue);
+    m_frame.setZValue(0.0);
+    setSelected(adding);
+
+    QSizeF size = rect.size();
+    if (!text.isEmpty() || rect.width() != 0.0 || rect.height() != 0.0) {
+        setPlainText(text);
+    } else {
+        setPlainText(placeholder());
+        size = document()->size();
+    }
+    setCorners(QPointF(0, 0), QPointF(size.width() + widthBesideText, size.height()));
+    fitTextToWidth();
+    setTextInteractionFlags(Qt::NoTextInteraction);
+    setData(ItemData::keyword, Records::textblockKeyword());
+    fillSizeMenu();
+}
+
+void TonquillTextBlock::fillSizeMenu()
+{
+    m_sizeMenu.addAction(QStringLiteral("Font point size"));
+    m_sizeMenu.addSeparator();
+    for (const int size : pointSizes)
+        m_sizeMenu.addAction(QString::number(size), this, SLOT(onFontSizeChange()));
+}
+
+bool TonquillTextBlock::isEdited(const QGraphicsTextItem &item)
+{
+    return (item.textInteractionFlags() & Qt::TextEditorInteraction) != 0;
+}
+
+/** True while all of text editing is on, as a double click leaves it. */
+bool TonquillTextBlock::isInEditor() const
+{
+    return textInteractionFlags() == Qt::TextEditorInteraction;
+}
+
+QRectF TonquillTextBlock::boundingRect() const
+{
+    return QRectF(m_topLeft, m_bottomRight);
+}
+
+void TonquillTextBlock::setCorners(QPointF topLeft, QPointF bottomRight)
+{
+    prepareGeometryChange();
+    m_frame.parentBoundsAboutToChange();
+    m_topLeft = topLeft;
+    m_bottomRight = bottomRight;
+    m_frame.setAnchors({topLeft, bottomRight});
+}
+
+void TonquillTextBlock::updateFrame()
+{
+    const QRectF textBounds = QGraphicsTextItem::boundingRect();
+    setCorners(textBounds.topLeft(), textBounds.bottomRight());
+}
+
+QString TonquillTextBlock::getParamStr()
+{
+    const QRectF bounds = boundingRect();
+    return Records::format(Records::TextBlock{truncatedToInt(x()), truncatedToInt(y()),
+                                              truncatedToInt(bounds.width()),
+                                              truncatedToInt(bounds.height()), toPlainText()});
+}
+
+void TonquillTextBlock::onFontSizeChange()
+{
+    const auto *entry = qobject_cast<QAction *>(sender());
+    if (!entry || !m_sizeMenu.actions().contains(entry))
+        return;
+    QFont sized = font();
+    sized.setPointSize(entry->text().toInt());
+    setFont(sized);
+    adjustSize();
+    fitTextToWidth();
+    update();
+}
+
+void TonquillTextBlock::paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
+                              QWidget *widget)
+{
+    const QStyleOptionGraphicsItem ours = PaperPainting::optionFor(*painter, *option);
+    QGraphicsTextItem::paint(painter, &ours, widget);
+}
+
+void TonquillTextBlock::mousePressEvent(QGraphicsSceneMouseEvent *event)
+{
+    if (isInEditor())
+        QGraphicsTextItem::mousePressEvent(event);
+    else if (ItemModel::onlyLeftButtonHeld(*event))
+        startDrag(*event);
+}
+
+void TonquillTextBlock::startDrag(const QGraphicsSceneMouseEvent &event)
+{
+    m_lastPointer = event.scenePos();
+    if (m_itemStatus != ItemStatus::Placed)
+        return;
+    ItemModel::takeMouseGrab(this);
+    // The top-left anchor moves the block like any other place of it.
+    QPointF anchor;
+    const int hit = m_frame.getAnchor(mapFromScene(event.scenePos()), anchor);
+    m_itemStatus = hit == bottomRightAnchor ? ItemStatus::Resizing : ItemStatus::Moving;
+    if (hit == bottomRightAnchor)
+        m_resizeAnchor = bottomRightAnchor;
+}
+
+void TonquillTextBlock::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
+{
+    if (isInEditor()) {
+        QGraphicsTextItem::mouseMoveEvent(event);
+        return;
+    }
+    const bool leftHeld = ItemModel::onlyLeftButtonHeld(*event);
+    if (m_itemStatus == ItemStatus::Adding)
+        setPos(event->scenePos());
+    else if (m_itemStatus == ItemStatus::Moving && leftHeld)
+        ItemModel::dragBy(this, *event, m_lastPointer);
+    else if (m_itemStatus == ItemStatus::Resizing && leftHeld)
+        resizeTo(mapFromScene(event->scenePos()));
+}
+
+void TonquillTextBlock::resizeTo(QPointF corner)
+{
+    prepareGeometryChange();
+    m_frame.parentBoundsAboutToChange();
+    (m_resizeAnchor == 0 ? m_topLeft : m_bottomRight) = corner;
+    m_frame.setAnchor(m_resizeAnchor, corner);
+    letOthersPaintAndFitText();
+}
+
+/**
+ * The last steps of a resize. Pending events are handled in between so that a long text keeps up
+ * with the pointer; one of them may take this block away.
+ */
+void TonquillTextBlock::letOthersPaintAndFitText()
+{
+    const QPointer<TonquillTextBlock> self(this);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (!self)
+        return;
+    adjustSize();
+    fitTextToWidth();
+    update();
+}
+
+void TonquillTextBlock::fitTextToWidth()
+{
+    setTextWidth(boundingRect().width() - widthBesideText);
+}
+
+void TonquillTextBlock::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
+{
+    const QPointer<TonquillTextBlock> self(this);
+    if (isInEditor())
+        QGraphicsTextItem::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton)
+        finishDrag();
+    if (self && event->button() == Qt::RightButton && m_itemStatus == ItemStatus::Placed)
+        m_sizeMenu.exec(QCursor::pos());
+}
+
+/** The grab taken at the press is kept; the next item that is pressed takes it. */
+void TonquillTextBlock::finishDrag()
+{
+    const bool resized = m_itemStatus == ItemStatus::Resizing;
+    m_itemStatus = ItemStatus::Placed;
+    if (resized)
+        letOthersPaintAndFitText();
+}
+
+void TonquillTextBlock::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
+{
+    if (textInteractionFlags() == Qt::NoTextInteraction)
+        setTextInteractionFlags(Qt::TextEditorInteraction);
+    // The scene forwards the click without saying where it is on this item.
+    event->setPos(mapFromScene(event->scenePos()));
+    QGraphicsTextItem::mouseDoubleClickEvent(event);
+}
+
+void TonquillTextBlock::contextMenuEvent(QGraphicsSceneContextMenuEvent *event)
+{
+    // The block's only menu is that of the point sizes, which opens when the button is released.
+    event->accept();
+}
+
+void TonquillTextBlock::keyPressEvent(QKeyEvent *event)
+{
+    if (!isEdited(*this)) {
+        event->ignore();
+        return;
+    }
+    QGraphicsTextItem::keyPressEvent(event);
+    followTyping();
+}
+
+void TonquillTextBlock::keyReleaseEvent(QKeyEvent *event)
+{
+    if (!isEdited(*this)) {
+        event->ignore();
+        return;
+    }
+    QGraphicsTextItem::keyReleaseEvent(event);
+    followTyping();
+}
+
+void TonquillTextBlock::followTyping()
+{
+    adjustSize();
+    updateFrame();
+    update();
+}
+
+void TonquillTextBlock::focusOutEvent(QFocusEvent *event)
+{
+    setTextInteractionFlags(Qt::NoTextInteraction);
+    QTextCursor cursor = textCursor();
+    cursor.clearSelection();
+    setTextCursor(cursor);
+    QGraphicsTextItem::focusOutEvent(event);
+}
+
+QVariant TonquillTextBlock::itemChange(GraphicsItemChange change, const QVariant &value)
+{
+    ItemModel::announceToScene(change, this, this, m_itemStatus);
+    return QGraphicsTextItem::itemChange(change, value);
+}

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "ItemModel.h"
+#include "SelectionFrame.h"
+
+#include <QGraphicsTextItem>
+#include <QMenu>
+
+/**
+ * A rectangle of text of several lines: a verse, a note to the player. Its width is set with the
+ * mouse, and a double click hands keys and mouse to the text editor until the block loses focus.
+ * A right click opens a menu of point sizes.
+ */
+class TonquillTextBlock : public QGraphicsTextItem
+{
+    Q_OBJECT
+    Q_PROPERTY(int itemStatus READ itemStatus)
+
+public:
+    enum { Type = UserType + 2 };
+
+    /**
+     * Only the width and height of `rect` are used; the caller sets the position. Without text
+     * and size the block shows how to use it, in its natural size.
+     */
+    TonquillTextBlock(bool adding, const QString &text, const QRectF &rect,
+                      QGraphicsItem *parent = nullptr);
+
+    /** True while any way of selecting or typing text is on. */
+    static bool isEdited(const QGraphicsTextItem &item);
+
+    int itemStatus() const { return static_cast<int>(m_itemStatus); }
+    int type() const override { return Type; }
+
+    /**
+     * The block's own rectangle, not the text's. Its corners are as the pointer left them: pulled
+     * over the top-left one, the bottom-right corner makes width and height negative.
+     */
+    QRectF boundingRect() const override;
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+
+public Q_SLOTS:
+    /** The item's record, of several lines. The font is not part of it. */
+    QString getParamStr();
+
+    /** Takes the point size that the sending entry of the size menu names. */
+    void onFontSizeChange();
+
+    /** Makes the block's rectangle that of its text, and its anchors the corners. */
+    void updateFrame();
+
+protected:
+    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event) override;
+    void contextMenuEvent(QGraphicsSceneContextMenuEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
+
+private:
+    bool isInEditor() const;
+    void fillSizeMenu();
+    void setCorners(QPointF topLeft, QPointF bottomRight);
+    void startDrag(const QGraphicsSceneMouseEvent &event);
+    void resizeTo(QPointF corner);
+    void finishDrag();
+    void letOthersPaintAndFitText();
+    void fitTextToWidth();
+    void followTyping();
+
+    ItemStatus m_itemStatus;
+    QPointF m_lastPointer;
+    SelectionFrame m_frame;
+    QPointF m_topLeft;
+    QPointF m_bottomRight;
+    int m_resizeAnchor = 1;
+    QMenu m_sizeMenu;
+};

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "ItemModel.h"
+#include "SelectionFrame.h"
+
+#include <QFont>
+#include <QGraphicsObject>
+
+/** A time signature: two numbers, one above the other. It can be moved but not resized. */
+class TonquillTimeSig : public QGraphicsObject
+{
+    Q_OBJECT
+    Q_PROPERTY(int itemStatus READ itemStatus)
+
+public:
+    enum { Type = UserType + 3 };
+
+    TonquillTimeSig(int numerator, int denominator, bool adding, QGraphicsItem *parent = nullptr);
+
+    int itemStatus() const { return static_cast<int>(m_itemStatus); }
+    int type() const override { return Type; }
+
+    /** 30 by 45 whatever the numbers; wide ones reach out of it. */
+    QRectF boundingRect() const override;
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+
+public Q_SLOTS:
+    /** The item's record. */
+    QString getParamStr();
+
+protected:
+    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+    QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
+
+private:
+    QFont m_font; ///< bold, 23 points; painting has a font of its own
+    ItemStatus m_itemStatus;
+    QPointF m_lastPointer;
+    SelectionFrame m_frame;
+    int m_numerator;
+    int m_denominator;
+};

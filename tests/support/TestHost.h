@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QStringList>
+
+/** A host in the test's own process: listens as the real one does and keeps what it is sent. */
+class TestHost : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Listens on the host's name, in the test's private temporary folder. */
+    TestHost();
+
+    /** Writes bytes to the editor as they are. */
+    void sendRaw(const QByteArray &bytes);
+
+    /** Writes a message with the host's prefix, "tw2tonquill ". */
+    void send(const QByteArray &payload);
+
+    /** Closes the connection. */
+    void closeConnection();
+
+    bool isConnected() const { return m_socket != nullptr; }
+
+    /** What came so far, one entry for each read. */
+    QStringList messages;
+
+private Q_SLOTS:
+    void onNewConnection();
+    void onReadyRead();
+
+private:
+    QLocalServer m_server;
+    QLocalSocket *m_socket = nullptr;
+};

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "TonquillVectorItem.h"
+
+/** A triplet bracket: two arms with hooks, and a 3 between them. */
+class TonquillVectorTriplet : public TonquillVectorItem
+{
+    Q_OBJECT
+
+public:
+    enum { Type = UserType + 8 };
+
+    TonquillVectorTriplet(bool adding, QPointF start, QPointF end, QGraphicsItem *parent = nullptr);
+
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+};

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QLine>
+#include <QList>
+#include <QPoint>
+#include <QPointF>
+#include <QRect>
+#include <QRectF>
+
+/**
+ * The figures of the vector items as pure functions of their two points. All coordinates are in
+ * item coordinates (scene units, y down); lines run between whole coordinates, truncated towards
+ * zero. Every result is finite, whatever the points.
+ */
+namespace VectorShapes
+{
+/** One five-line staff, or two joined ones when the end lies more than 80 below the start. */
+QList<QLine> grandstaff(QPointF start, QPointF end);
+
+/** The straight line between the points. */
+QList<QLine> line(QPointF start, QPointF end);
+
+/** As many lines, 14 apart, as whole spacings fit between the points, but at least two. */
+QList<QLine> tablature(QPointF start, QPointF end);
+
+/** A triplet bracket: its lines, and where the baseline of its numeral begins. */
+struct Triplet
+{
+    QList<QLine> lines;
+    QPoint numeral;
+};
+Triplet triplet(QPointF start, QPointF end);
+
+/** A tie: an arc of 45 degrees through both points, in QPainter's terms. */
+struct Tie
+{
+    QRect rect;     ///< the circle's square, for QPainter::drawArc
+    int startAngle; ///< in sixteenths of a degree
+    int spanAngle;  ///< in sixteenths of a degree
+    QRectF bounds;  ///< covers the arc and the item's origin
+};
+Tie tie(QPointF start, QPointF end);
+} // namespace VectorShapes
