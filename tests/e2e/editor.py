@@ -23,6 +23,7 @@ class Editor:
         wanted = self._layout["window"]
         if self.window.size != (wanted["width"], wanted["height"]):
             raise AssertionError(f"the window has the size {self.window.size}, not {wanted}")
+        self.window.picture_at_rest()
 
     def log(self):
         """What the program has written to its output so far."""
