@@ -93,6 +93,7 @@ def build(drawings):
     _set_names(builder)
     builder.setupPost(keepGlyphNames=True)
     addOpenTypeFeaturesFromString(builder.font, features(drawings, mapping))
+    builder.font["OS/2"].recalcUnicodeRanges(builder.font)
     return builder.font
 
 
@@ -117,8 +118,3 @@ def _set_names(builder):
         "psName": FAMILY,
         "licenseDescription": "MIT licence",
     })
-
-
-def write(drawings, path):
-    """Write the font file."""
-    build(drawings).save(path, reorderTables=None)

@@ -6,17 +6,14 @@ same tree elsewhere. Every run writes the same bytes.
 """
 
 import argparse
-import sys
 from pathlib import Path
 
-sys.dont_write_bytecode = True
-
-import font         # noqa: E402
-import icon         # noqa: E402
-import images       # noqa: E402
-import sheet        # noqa: E402
-import strips       # noqa: E402
-from outlines import Drawings   # noqa: E402
+import font
+import icon
+import images
+import sheet
+import strips
+from outlines import Drawings
 
 HERE = Path(__file__).resolve().parent
 

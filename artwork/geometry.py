@@ -81,15 +81,14 @@ def box(left, bottom, right, top):
     return [(left, bottom), (right, bottom), (right, top), (left, top)]
 
 
-def ellipse(cx, cy, rx, ry=None, tilt=0.0, power=2.0):
-    """An ellipse, its long axis turned by tilt; a power above 2 fills its corners."""
+def ellipse(cx, cy, rx, ry=None, tilt=0.0):
+    """An ellipse, its first axis turned by tilt; a circle if there is but one radius."""
     ry = rx if ry is None else ry
     cos, sin = math.cos(math.radians(tilt)), math.sin(math.radians(tilt))
     points = []
     for step in range(4 * ROUND_STEPS):
         turn = math.pi * step / (2 * ROUND_STEPS)
-        u = rx * math.copysign(abs(math.cos(turn)) ** (2 / power), math.cos(turn))
-        v = ry * math.copysign(abs(math.sin(turn)) ** (2 / power), math.sin(turn))
+        u, v = rx * math.cos(turn), ry * math.sin(turn)
         points.append((cx + u * cos - v * sin, cy + u * sin + v * cos))
     return points
 

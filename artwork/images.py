@@ -1,4 +1,4 @@
-"""The pictures of the 37 symbols: 8 pixels a space for the screen, 64 for dense screens and paper."""
+"""The pictures of the 37 symbols: 8 pixels a space for the screen, 64 for anything finer."""
 
 import math
 
@@ -18,23 +18,27 @@ def canvas(drawings, glyph):
     top count rows. The two forms of a note share one width, so that the head stays in its column
     when they are swapped.
     """
-    left, bottom, right, top = _wanted(drawings, glyph)
-    for twin in drawings:
-        if twin is not glyph and twin.image and twin.image[:-1] == glyph.image[:-1] \
-                and twin.image[-1] in "12" and "Note" in twin.image:
-            box = _wanted(drawings, twin)
-            left, right = min(left, box[0]), max(right, box[2])
-    return (math.floor(left * SPACE + TINY) - EDGE, round_row(bottom, math.floor) - EDGE,
-            math.ceil(right * SPACE - TINY) + EDGE, round_row(top, math.ceil) + EDGE)
+    _, bottom, _, top = _wanted(drawings, glyph)
+    boxes = [_wanted(drawings, form) for form in _forms(drawings, glyph)]
+    left, right = min(box[0] for box in boxes), max(box[2] for box in boxes)
+    return (math.floor(left * SPACE + TINY) - EDGE, _row_border(bottom, math.floor, TINY) - EDGE,
+            math.ceil(right * SPACE - TINY) + EDGE, _row_border(top, math.ceil, -TINY) + EDGE)
 
 
-def round_row(y, rounding):
-    """The row border (in rows, counted from the one through y = 0's row) beyond y."""
-    nudge = TINY if rounding is math.floor else -TINY
+def _forms(drawings, glyph):
+    """A note's two forms; of anything else, only itself."""
+    if "Note" not in glyph.name or glyph.name[-1] not in "12":
+        return [glyph]
+    return [drawings[glyph.name[:-1] + form] for form in "12"]
+
+
+def _row_border(y, rounding, nudge):
+    """The border between rows at or beyond y, counted from the one below the row of y = 0."""
     return rounding(y * SPACE + 0.5 + nudge)
 
 
 def _wanted(drawings, glyph):
+    """The box (in spaces) that the picture must hold: the ink and the room asked for round it."""
     ink = drawings.bounds(glyph.name)
     room = glyph.room or ink
     return (min(ink[0], room[0]), min(ink[1], room[1]), max(ink[2], room[2]), max(ink[3], room[3]))

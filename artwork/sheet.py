@@ -2,45 +2,71 @@
 
 import io
 
-from fontTools.pens.recordingPen import DecomposingRecordingPen
+from fontTools.pens.recordingPen import RecordingPen
 from PIL import Image, ImageDraw, ImageFont
 
 import font
+import geometry
 import images
 import raster
 import strips
 
-WIDTH = 1700
-GAP = 14
+WIDTH = 1700                    # pixels
+GAP = 14                        # pixels between pictures
 LABEL = ImageFont.load_default()
+LOWEST_LINE = {"RepeatBegin": 0, "RepeatEnd": 0, "GClef": -1, "FClef": -3, "WholeRest1": -3}
+
+# A few bars that put the symbols side by side: name, x and y in spaces from the lowest line's
+# left end.
+EXAMPLE = (
+    ("GClef", 0.6, 1), ("Flat", 4, 2), ("CommonTimeWhole", 5.5, 2),
+    ("QuarterNote1", 8.5, 1), ("NoteDot", 10.1, 1.5), ("EighthNote1", 11.5, 0.5),
+    ("Sharp", 14.2, 1.5), ("HalfNote1", 15.5, 1.5), ("BarLine", 18.5, 0),
+    ("QuarterRest1", 19.8, 2), ("SixteenthNote2", 22.2, 2.5), ("SixteenthNote1", 24.5, 1),
+    ("EighthRest1", 27.6, 2), ("Natural", 29.6, 3), ("QuarterNote2", 30.6, 3),
+    ("EighthNote2", 33, 2), ("SixteenthRest1", 35.3, 2), ("BarLine", 37.4, 0),
+    ("WholeRest1", 40, 3), ("BarLine", 43.4, 0), ("StaffLine", 44.9, -1),
+    ("WholeNote1", 45.15, -1), ("RepeatEnd", 48.6, 0), ("FClef", 51.4, 3),
+    ("CommonTimeHalf", 55, 2), ("RepeatBegin", 57.8, 0), ("ThirtySecondNote1", 60.6, 0.5),
+    ("HalfRest1", 64, 2), ("ThirtySecondRest1", 66.2, 2), ("HalfNote2", 69, 2.5),
+    ("SixtyFourthNote2", 71.4, 3), ("OneTwentyEighthRest1", 74, 2), ("PedalB", 60.2, -3.5),
+    ("PedalE", 70.6, -3.5), ("BarLine", 77.875, 0),
+)
+EXAMPLE_BOX = (0, -4, 78, 8)    # spaces
 
 
-def _staff_line_rows(symbol):
+def _staff(lines, left, right):
+    """The five lines as polygons, each an eighth of a space thick."""
+    return [geometry.box(left, y - 1 / 16, right, y + 1 / 16) for y in lines]
+
+
+def _staff_lines(symbol):
     """The y of the five staff lines as the symbol's own origin sees them."""
-    if symbol in ("RepeatBegin", "RepeatEnd"):
-        return range(0, 5)
-    if symbol == "GClef":
-        return range(-1, 4)
-    if symbol == "FClef":
-        return range(-3, 2)
-    if symbol == "WholeRest1":
-        return range(-3, 2)
-    return range(-2, 3)
+    lowest = LOWEST_LINE.get(symbol, -2)
+    return range(lowest, lowest + 5)
+
+
+def example(drawings, scale):
+    """The example bars at scale pixels a space, black on white as they look on a page."""
+    left, bottom, right, top = EXAMPLE_BOX
+    ink = _staff(range(5), left, right)
+    for name, x, y in EXAMPLE:
+        ink = geometry.union(ink, geometry.placed(drawings.contours(name), round(x * 8) / 8, y))
+    return raster.grey_image(ink, left, top - 1 / 16, (right - left) * scale,
+                             (top - bottom) * scale, scale)
 
 
 def on_staff(drawings, glyph, scale):
-    """One symbol on a staff at scale pixels a space, half a space of staff to either side."""
+    """One symbol on a grey staff at scale pixels a space, half a space of staff to either side."""
     left, bottom, right, top = images.canvas(drawings, glyph)
-    lines = _staff_line_rows(glyph.name)
+    lines = _staff_lines(glyph.name)
     bottom, top = min(bottom, lines[0] * 8 - 4), max(top, lines[-1] * 8 + 5)
     fine = scale // images.SPACE
-    width, height = (right - left + 8) * fine, (top - bottom) * fine
-    staff = [[(-9, y - 1 / 16), (99, y - 1 / 16), (99, y + 1 / 16), (-9, y + 1 / 16)]
-             for y in lines]
-    corner = ((left - 4) / images.SPACE, (top - 0.5) / images.SPACE)
-    picture = raster.grey_image(staff, *corner, width, height, scale).point(
-        lambda grey: 255 - (255 - grey) // 2)
-    ink = raster.grey_image(drawings.contours(glyph.name), *corner, width, height, scale)
+    place = ((left - 4) / images.SPACE, (top - 0.5) / images.SPACE,
+             (right - left + 8) * fine, (top - bottom) * fine, scale)
+    picture = raster.grey_image(_staff(lines, left - 9, right + 9), *place)
+    picture = picture.point(lambda grey: 255 - (255 - grey) // 2)
+    ink = raster.grey_image(drawings.contours(glyph.name), *place)
     picture.paste(0, mask=ink.point(lambda grey: 255 - grey))
     return picture
 
@@ -81,6 +107,9 @@ class Page:
 def contact_sheet(drawings, musica):
     """Every symbol at three sizes, the strips, and the font's letters."""
     page = Page()
+    page.heading("Side by side, at 16 and at 8 pixels a staff space")
+    for scale in (16, 8):
+        page.place(example(drawings, scale))
     symbols = [glyph for glyph in drawings if glyph.image]
     for scale in (64, 16, 8):
         page.heading(f"{scale} pixels a staff space")
@@ -100,13 +129,14 @@ def contact_sheet(drawings, musica):
 
 def _font_sample(musica, name, pixels=64):
     """A glyph of the finished font at pixels to the em, as its own outline says."""
-    pen = DecomposingRecordingPen(musica.getGlyphSet())
+    pen = RecordingPen()
     musica.getGlyphSet()[name].draw(pen)
     polygons = []
     for operator, points in pen.value:
         if operator == "moveTo":
-            polygons.append([])
-        polygons[-1:] = [polygons[-1] + list(points)] if points else polygons[-1:]
+            polygons.append(list(points))
+        elif operator == "lineTo":
+            polygons[-1] += points
     scale = pixels / font.EM
     width = round(musica["hmtx"][name][0] * scale) + 2
     ascent, descent = musica["hhea"].ascent, musica["hhea"].descent
@@ -129,7 +159,9 @@ LETTERS_HEAD = """\
 # Typing symbols with the Musica font
 
 Choose "Musica" in the text dialog and type these letters. Every symbol also answers to its own
-code points, so that text pasted from elsewhere shows the same.
+code points, so that text pasted from elsewhere shows the same. Capitals are the rests of the
+notes; a `v` before a note turns its stem down. At 24 points the symbols have the size of those on
+the staves. [The contact sheet](contact-sheet.png) shows them all.
 
 | Type | Symbol | Code points |
 |---|---|---|"""
