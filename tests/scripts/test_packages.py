@@ -36,9 +36,10 @@ class PackagesTest(unittest.TestCase):
     def run_script(self, commands, **environment):
         apt_log = self.folder / "apt.log"
         self.command("apt-get", f'echo "$DEBIAN_FRONTEND $*" >>{apt_log}')
-        preparation = f'set -euo pipefail; . {SCRIPT}; packages_list={self.list}; as_root() {{ "$@"; }}'
+        preparation = f"set -euo pipefail; . {SCRIPT}; packages_list={self.list}"
+        as_root = 'as_root() { "$@"; }'
         result = subprocess.run(
-            ["bash", "-c", f"{preparation}; {commands}"],
+            ["bash", "-c", f"{preparation}; {as_root}; {commands}"],
             env={"PATH": f"{self.folder}:/usr/bin:/bin"} | environment,
             stdin=subprocess.DEVNULL,
             capture_output=True,
