@@ -1,6 +1,7 @@
 #include "Invariants.h"
 #include "Monkey.h"
 #include "TonquillMainWin.h"
+#include "TonquillScene.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -16,10 +17,12 @@ int run(quint32 seed, int steps)
 {
     QTextStream out(stdout);
     Monkey monkey(seed);
+    qsizetype largest = 0; // items, each with its frame
     for (int step = 1; step <= steps; ++step) {
         monkey.step();
         if (step % stepsBetweenChecks != 0)
             continue;
+        largest = qMax(largest, monkey.window().scene->items().size() / 2);
         QString broken = Invariants::broken(monkey.window());
         if (broken.isEmpty())
             broken = Invariants::brokenRoundTrip(monkey.window());
@@ -30,7 +33,8 @@ int run(quint32 seed, int steps)
         if (step % stepsOfOneWindow == 0)
             monkey.startAfresh();
     }
-    out << "seed " << seed << ": " << steps << " steps survived" << Qt::endl;
+    out << "seed " << seed << ": " << steps << " steps survived, with up to " << largest << " items"
+        << Qt::endl;
     return 0;
 }
 } // namespace
