@@ -212,7 +212,7 @@ QString Monkey::anyRecord()
 void Monkey::hostSendsDocument()
 {
     QString document = QStringLiteral("tonquill_pagecount 1\n");
-    for (int count = m_random.below(30); count > 0; --count)
+    for (int count = m_random.below(100); count > 0; --count)
         document += u'|' + anyRecord();
     if (m_host->isConnected() && m_random.onceIn(2))
         m_host->send(document.toLatin1());
