@@ -5,8 +5,6 @@
 
 #include <QPainter>
 
-#include <cmath>
-
 void TonquillScene::resizeToPages()
 {
     setSceneRect(0, 0, paperRect.width(), g_pMainWin->pageCount * pagePitch());
@@ -102,14 +100,11 @@ QList<QGraphicsItem *> TonquillScene::topLevelItemsIn(const QRectF &area) const
     return result;
 }
 
-void TonquillScene::drawBackground(QPainter *painter, const QRectF &rect)
+void TonquillScene::drawBackground(QPainter *painter, const QRectF &)
 {
     // The painter goes on to the items, which must not inherit the grey pen.
     painter->save();
-    const int pages = g_pMainWin->pageCount;
-    const int first = qMax(0, truncatedToInt(std::floor(rect.top() / pagePitch())) - 1);
-    const int last = qMin(pages - 1, truncatedToInt(std::floor(rect.bottom() / pagePitch())) + 1);
-    for (int i = first; i <= last; ++i)
+    for (int i = 0; i < g_pMainWin->pageCount; ++i)
         DrawPageBoundary(painter, i);
     painter->restore();
 }
