@@ -9,6 +9,7 @@ TonquillVectorItem::TonquillVectorItem(const Kind &kind, bool adding, QPointF st
                                        QGraphicsItem *parent)
     : QGraphicsObject(parent)
     , m_kind(kind)
+    , m_font(ItemModel::largeBoldFont())
     , m_itemStatus(adding ? ItemStatus::Adding : ItemStatus::Placed)
     , m_start(adding ? QPointF(0, 0) : start)
     , m_end(adding ? kind.newEndPoint : end)

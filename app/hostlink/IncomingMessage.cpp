@@ -27,7 +27,9 @@ bool IncomingMessage::endsWithRecord() const
 {
     if (m_bytes.endsWith('\n'))
         return true;
-    const QByteArray last = m_bytes.sliced(m_bytes.lastIndexOf('|') + 1);
+    // Asked with every piece, so only the end is looked at: hardly a record is longer.
+    const QByteArray tail = m_bytes.last(qMin(m_bytes.size(), smallPiece));
+    const QByteArray last = tail.sliced(tail.lastIndexOf('|') + 1);
     return !std::holds_alternative<std::monostate>(Records::parse(QString::fromLatin1(last)));
 }
 

@@ -15,6 +15,8 @@ public:
     void press(QPointF scenePos, Qt::MouseButton button = Qt::LeftButton);
     void release(QPointF scenePos, Qt::MouseButton button = Qt::LeftButton);
     void moveTo(QPointF scenePos);
+    /** The second press of a double click, which is held until it is released. */
+    void pressTwice(QPointF scenePos, Qt::MouseButton button = Qt::LeftButton);
     void doubleClick(QPointF scenePos, Qt::MouseButton button = Qt::LeftButton);
     /** Moves there, presses and releases. */
     void click(QPointF scenePos, Qt::MouseButton button = Qt::LeftButton);
