@@ -20,7 +20,7 @@ HostLink::HostLink(TonquillMainWin &window)
     : m_window(window)
 {
     m_quiet.setSingleShot(true);
-    connect(&m_quiet, SIGNAL(timeout()), this, SLOT(judge()));
+    connect(&m_quiet, SIGNAL(timeout()), this, SLOT(judgeIfQuiet()));
     connect(&window.socket, SIGNAL(bytesWritten(qint64)), this, SLOT(sendNext()));
     connect(&window.socket, SIGNAL(disconnected()), this, SLOT(onDisconnected()));
 }
@@ -37,6 +37,18 @@ void HostLink::readAvailable()
         judge();
     else
         m_quiet.start(m_incoming.endsWithRecord() ? quietAfterRecord : quietWithinRecord);
+}
+
+/**
+ * The window may have been busy for longer than the pause lasts, and what the host has written
+ * meanwhile still waits to be read.
+ */
+void HostLink::judgeIfQuiet()
+{
+    m_window.socket.waitForReadyRead(0);
+    readAvailable();
+    if (!m_quiet.isActive())
+        judge();
 }
 
 void HostLink::judge()
