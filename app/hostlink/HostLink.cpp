@@ -73,10 +73,17 @@ void HostLink::act(const QString &payload)
     }
 }
 
-/** The box does not run a loop of its own: the socket must be heard while it is open. */
+/**
+ * The box does not run a loop of its own: the socket must be heard while it is open. Told the same
+ * again while it is, the user has not to close it twice.
+ */
 void HostLink::showBox(const QString &title, const QString &text)
 {
+    const auto *open = m_window.findChild<QMessageBox *>(title, Qt::FindDirectChildrenOnly);
+    if (open && open->isVisible())
+        return;
     auto *box = new QMessageBox(QMessageBox::Warning, title, text, QMessageBox::Ok, &m_window);
+    box->setObjectName(title);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();
 }
