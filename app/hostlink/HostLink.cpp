@@ -10,10 +10,20 @@
 namespace
 {
 // Milliseconds. A message that breaks off within a record is given longer, for its writer may
-// only have been held up; and one that never ends is judged by what came.
+// only have been held up; and one that never ends is judged by what came. The longer a message,
+// the likelier is a pause within it, and the less is a longer wait noticed.
 constexpr int quietAfterRecord = 60;
 constexpr int quietWithinRecord = 400;
+constexpr qsizetype bytesForOneMore = 64 * 1024;
 constexpr qint64 longestMessage = 30000;
+
+int quietTimeOf(const IncomingMessage &message)
+{
+    if (!message.endsWithRecord())
+        return quietWithinRecord;
+    return static_cast<int>(
+        qMin<qsizetype>(quietAfterRecord + message.size() / bytesForOneMore, quietWithinRecord));
+}
 } // namespace
 
 HostLink::HostLink(TonquillMainWin &window)
@@ -36,7 +46,7 @@ void HostLink::readAvailable()
     if (m_incoming.isOneSmallPiece() || m_sinceFirstPiece.hasExpired(longestMessage))
         judge();
     else
-        m_quiet.start(m_incoming.endsWithRecord() ? quietAfterRecord : quietWithinRecord);
+        m_quiet.start(quietTimeOf(m_incoming));
 }
 
 /**
