@@ -17,6 +17,8 @@ TonquillVectorItem::TonquillVectorItem(const Kind &kind, bool adding, QPointF st
 {
     setFlags(ItemIsMovable | ItemIsSelectable);
     setSelected(adding);
+    m_font.setWeight(QFont::Bold);
+    m_font.setPointSize(23);
     m_frame.setAnchors(kind.anchors == Anchors::AtPoints
                            ? QList<QPointF>{m_start, m_end}
                            : QList<QPointF>{spannedRect().topLeft(), spannedRect().bottomRight()});
