@@ -100,11 +100,19 @@ QList<QGraphicsItem *> TonquillScene::topLevelItemsIn(const QRectF &area) const
     return result;
 }
 
-void TonquillScene::drawBackground(QPainter *painter, const QRectF &)
+void TonquillScene::drawBackground(QPainter *painter, const QRectF &rect)
 {
     // The painter goes on to the items, which must not inherit the grey pen.
     painter->save();
-    for (int i = 0; i < g_pMainWin->pageCount; ++i)
+    // Printing asks page by page: only those that the rectangle can show, else the cost of all
+    // pages would grow with the square of their number. No rectangle shows all.
+    int first = 0;
+    int last = g_pMainWin->pageCount - 1;
+    if (!rect.isEmpty()) {
+        first = qMax(first, truncatedToInt(rect.top() / pagePitch()) - 1);
+        last = qMin(last, truncatedToInt(rect.bottom() / pagePitch()) + 1);
+    }
+    for (int i = first; i <= last; ++i)
         DrawPageBoundary(painter, i);
     painter->restore();
 }

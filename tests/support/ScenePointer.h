@@ -24,6 +24,8 @@ public:
     void drag(QPointF from, QPointF to, Qt::MouseButton button = Qt::LeftButton);
 
     Qt::MouseButtons held() const { return m_held; }
+    /** Has exactly these buttons held from now on, as if the change had gone to another window. */
+    void setHeld(Qt::MouseButtons buttons) { m_held = buttons; }
 
 private:
     void send(int type, QPointF scenePos, Qt::MouseButton button);
