@@ -90,7 +90,9 @@ void TonquillScene::buildText(const Records::Text &record, bool adding, int offs
 {
     QFont font;
     font.setFamily(record.family);
-    font.setPointSize(record.pointSize);
+    // A size that is none comes from fields that a text of several words has shifted.
+    if (record.pointSize > 0)
+        font.setPointSize(record.pointSize);
     auto *item = new TonquillText(adding);
     item->setFont(font);
     item->setPlainText(record.text);
