@@ -118,7 +118,7 @@ private:
     void build(const Records::Record &record, bool adding, int offset);
     void buildBitmap(const Records::Bitmap &record, bool adding, int offset);
     void buildText(const Records::Text &record, bool adding, int offset);
-    void place(QGraphicsItem *item, int x, int y, int offset);
+    void place(QGraphicsItem *item, int x, int y, double offset);
     QPointF cursorPosition() const;
     static QString recordOf(QObject *item);
 

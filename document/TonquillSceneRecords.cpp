@@ -67,8 +67,8 @@ void TonquillScene::build(const Records::Record &parsed, bool adding, int offset
                        addAndPlace(ItemFactory::makeVectorItem(record, adding), record);
                    },
                    [&](const Records::TextBlock &record) {
-                       qCDebug(lcRecords) << "tmp1=" << record.x << record.y << record.width
-                                          << record.height;
+                       qCDebug(lcRecords)
+                           << "tmp1=" << record.x << record.y << record.width << record.height;
                        qCDebug(lcRecords) << "txt=" << record.text;
                        const QRectF rect(record.x, record.y, record.width, record.height);
                        addAndPlace(new TonquillTextBlock(adding, record.text, rect), record);
@@ -90,7 +90,9 @@ void TonquillScene::buildText(const Records::Text &record, bool adding, int offs
 {
     QFont font;
     font.setFamily(record.family);
-    font.setPointSize(record.pointSize);
+    // A size that is none comes from fields that a text of several words has shifted.
+    if (record.pointSize > 0)
+        font.setPointSize(record.pointSize);
     auto *item = new TonquillText(adding);
     item->setFont(font);
     item->setPlainText(record.text);
@@ -102,16 +104,16 @@ void TonquillScene::buildText(const Records::Text &record, bool adding, int offs
     item->setRotation(record.rotation);
     item->updateFrame();
     // A simple text gets the offset twice. That is meant.
-    place(item, record.x, record.y, offset == atCursor ? atCursor : 2 * offset);
+    place(item, record.x, record.y, offset == atCursor ? atCursor : 2.0 * offset);
     update();
 }
 
-void TonquillScene::place(QGraphicsItem *item, int x, int y, int offset)
+void TonquillScene::place(QGraphicsItem *item, int x, int y, double offset)
 {
     if (offset == atCursor)
         item->setPos(cursorPosition());
     else
-        item->setPos(double(x) + offset, double(y) + offset);
+        item->setPos(x + offset, y + offset);
 }
 
 /** The mouse cursor in scene coordinates, as the first view maps it. */
