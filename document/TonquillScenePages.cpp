@@ -128,7 +128,7 @@ void TonquillScene::DrawPageBoundary(QPainter *painter, int index)
 
 void TonquillScene::drawForeground(QPainter *painter, const QRectF &)
 {
-    if (!m_rubberBandVisible)
+    if (!m_rubberBandVisible || PaperPainting::isPrinter(*painter))
         return;
     painter->setPen(QPen(Qt::black, 0, Qt::DashLine));
     painter->setBrush(Qt::NoBrush);

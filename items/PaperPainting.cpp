@@ -1,7 +1,10 @@
 #include "PaperPainting.h"
 
+#include <QAbstractTextDocumentLayout>
+#include <QGraphicsTextItem>
 #include <QPainter>
 #include <QPrinter>
+#include <QTextDocument>
 
 namespace
 {
@@ -46,6 +49,18 @@ QFont PaperPainting::inSceneUnits(const QFont &font)
     if (font.pointSizeF() > 0)
         result.setPixelSize(qMax(1, qRound(font.pointSizeF() * screenDotsPerInch / pointsPerInch)));
     return result;
+}
+
+void PaperPainting::drawText(QPainter *painter, const QGraphicsTextItem &item,
+                             const QRectF &exposed)
+{
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.palette.setColor(QPalette::Text, item.defaultTextColor());
+    context.clip = exposed;
+    painter->save();
+    painter->setClipRect(exposed, Qt::IntersectClip);
+    item.document()->documentLayout()->draw(painter, context);
+    painter->restore();
 }
 
 void PaperPainting::drawSelectionOutline(QPainter *painter, const QRectF &bounds,

@@ -37,6 +37,8 @@ HostLink::HostLink(TonquillMainWin &window)
 
 void HostLink::readAvailable()
 {
+    if (m_paused)
+        return;
     const QByteArray bytes = m_window.socket.readAll();
     if (bytes.isEmpty())
         return;
@@ -55,6 +57,8 @@ void HostLink::readAvailable()
  */
 void HostLink::judgeIfQuiet()
 {
+    if (m_paused)
+        return;
     m_window.socket.waitForReadyRead(0);
     readAvailable();
     if (!m_quiet.isActive())
@@ -109,9 +113,30 @@ void HostLink::receiveDocument(const QString &payload)
     }
 }
 
+void HostLink::pause()
+{
+    m_paused = true;
+}
+
+/** A message that had begun to arrive is given its time anew: its rest may still be unread. */
+void HostLink::resume()
+{
+    m_paused = false;
+    m_sinceFirstPiece.start();
+    if (m_window.socket.state() == QLocalSocket::UnconnectedState) {
+        onDisconnected();
+        return;
+    }
+    readAvailable();
+    if (!m_incoming.isEmpty() && !m_quiet.isActive())
+        m_quiet.start(quietTimeOf(m_incoming));
+}
+
 void HostLink::onDisconnected()
 {
     m_outbox.clear();
+    if (m_paused)
+        return;
     readAvailable();
     // What is cut off within a record is no document: better the one that the user sees.
     if (m_incoming.endsWithRecord())
