@@ -9,8 +9,9 @@ set(CPACK_PACKAGE_DESCRIPTION
 on a stack of pages, exactly where you want them, and print them. Nothing is
 engraved behind your back.
 .
-The editor is the companion of a host application, with which it exchanges
-the document over a local socket.")
+There are two programs: one with files, undo and export to PDF, PNG and SVG,
+and the editor alone, which is the companion of a host application with which
+it exchanges the document over a local socket.")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION sound)
