@@ -61,8 +61,8 @@ MUTATIONS = [
     Mutation(
         "a simple text gets the offset once",
         "document/TonquillSceneRecords.cpp",
-        "offset == atCursor ? atCursor : 2 * offset",
-        "offset",
+        "offset == atCursor ? atCursor : 2",
+        "offset == atCursor ? atCursor : 1",
         "tst_construction",
     ),
     Mutation(
@@ -159,8 +159,8 @@ MUTATIONS = [
     Mutation(
         "a blank page is printed behind the last one",
         "app/print/PagePrinter.cpp",
-        "if (i < m_window.pageCount - 1)",
-        "if (i < m_window.pageCount)",
+        "i < m_window.pageCount - 1",
+        "i < m_window.pageCount",
         "tst_printedpages",
     ),
 ]
