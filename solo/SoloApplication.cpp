@@ -5,6 +5,7 @@
 #include "Exporter.h"
 #include "SingleInstance.h"
 #include "SoloWindow.h"
+#include "Translations.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -90,6 +91,7 @@ int SoloApplication::run(int argc, char *argv[])
     else if (!hasDisplay())
         return fail(QStringLiteral("there is no display; --export works without one"));
     QApplication application(argc, argv);
+    installTranslations(application);
     QCoreApplication::setApplicationName(QStringLiteral("tonquill-solo"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TONQUILL_VERSION));
     QGuiApplication::setApplicationDisplayName(QString());
