@@ -1,11 +1,11 @@
 #include "DocumentFile.h"
 
+#include "AtomicFile.h"
 #include "DocumentReader.h"
 #include "ItemRecords.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace
 {
@@ -67,13 +67,5 @@ DocumentFile::Reading DocumentFile::load(const QString &path, const Paper &defau
 
 QString DocumentFile::save(const QString &path, const DocumentSnapshot &document)
 {
-    // Saving puts a new file in the place of the old one, which would be the end of a device.
-    const QFileInfo info(path);
-    if (info.exists() && !info.isFile())
-        return tr("This is not an ordinary file.");
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return file.errorString();
-    file.write(format(document));
-    return file.commit() ? QString() : file.errorString();
+    return AtomicFile::write(path, format(document));
 }
