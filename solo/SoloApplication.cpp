@@ -90,6 +90,7 @@ int SoloApplication::run(int argc, char *argv[])
     else if (!hasDisplay())
         return fail(QStringLiteral("there is no display; --export works without one"));
     QApplication application(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("Tonquill"));
     QCoreApplication::setApplicationName(QStringLiteral("tonquill-solo"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TONQUILL_VERSION));
     QGuiApplication::setApplicationDisplayName(QString());

@@ -42,7 +42,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void sayNothingLeft(const QString &state, const QString &title, const QString &text);
+    void sayNothingLeft(const QString &title, const QString &text);
     void refreshTitle();
 
     TonquillMainWin m_window;

@@ -15,6 +15,7 @@
         for (const char *name : {"TMPDIR", "HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})            \
             qputenv(name, folder.path().toLocal8Bit());                                            \
         QApplication application(argc, argv);                                                      \
+        QCoreApplication::setOrganizationName(QStringLiteral("Tonquill"));                         \
         QCoreApplication::setApplicationName(QStringLiteral("tonquill-solo"));                     \
         TestClass test;                                                                            \
         return QTest::qExec(&test, argc, argv);                                                    \

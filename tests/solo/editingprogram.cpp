@@ -1,6 +1,7 @@
 // Edits a document without end, as fast as a hand could, for a test that kills it. Each line of
 // its output is the number of items after an edit.
 #include "DocumentSession.h"
+#include "TonquillBitmap.h"
 #include "TonquillMainWin.h"
 
 #include <QApplication>

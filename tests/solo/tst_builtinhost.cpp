@@ -5,7 +5,6 @@
 #include "TonquillScene.h"
 
 #include <QLocalSocket>
-#include <QMessageBox>
 #include <QProcess>
 #include <QSignalSpy>
 
@@ -18,7 +17,6 @@ private Q_SLOTS:
     void takesMessagesApart_data();
     void takesMessagesApart();
     void hearsOfEditsAndCommands();
-    void showsTheEditorsOwnBox();
     void noticesARealHost();
     void replacesAStaleSocket();
     void leavesAnOrdinaryFileAlone();
@@ -92,19 +90,6 @@ void BuiltInHostTest::hearsOfEditsAndCommands()
     QTRY_COMPARE(edited.size(), 2);
     QCOMPARE(redo.size(), 1);
     QCOMPARE(raise.size(), 1);
-}
-
-void BuiltInHostTest::showsTheEditorsOwnBox()
-{
-    BuiltInHost host;
-    QCOMPARE(host.listen(), QString());
-    QVERIFY(!host.sendState(HostMessages::stateNothingToUndo));
-    TonquillMainWin window(TonquillMainWin::HostConnection::Later);
-    window.connectToHost();
-    QTRY_VERIFY(host.sendState(HostMessages::stateNothingToUndo));
-    QTRY_VERIFY(window.findChild<QMessageBox *>());
-    QCOMPARE(window.findChild<QMessageBox *>()->text(), QString("Nothing to undo"));
-    window.findChild<QMessageBox *>()->close();
 }
 
 void BuiltInHostTest::noticesARealHost()

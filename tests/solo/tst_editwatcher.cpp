@@ -1,5 +1,6 @@
 #include "EditWatcher.h"
 #include "SoloTestMain.h"
+#include "TonquillBitmap.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 #include "TonquillTextBlock.h"

@@ -3,6 +3,7 @@
 #include "PaletteTable.h"
 #include "SoloTestMain.h"
 #include "SoloWindow.h"
+#include "TonquillBitmap.h"
 #include "TonquillScene.h"
 #include "TonquillTextBlock.h"
 #include "TonquillView.h"
