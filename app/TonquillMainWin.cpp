@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFontDatabase>
+#include <QPointer>
 
 TonquillMainWin *g_pMainWin = nullptr;
 QString g_csINIPath;
@@ -19,15 +20,16 @@ QString g_csINIPath;
 namespace
 {
 /** Scenes whose windows may be gone; they are destroyed when the application is. */
-QList<TonquillScene *> &scenesOfTheProcess()
+QList<QPointer<TonquillScene>> &scenesOfTheProcess()
 {
-    static QList<TonquillScene *> scenes;
+    static QList<QPointer<TonquillScene>> scenes;
     return scenes;
 }
 
 void destroyScenes()
 {
-    qDeleteAll(scenesOfTheProcess());
+    for (const QPointer<TonquillScene> &scene : std::as_const(scenesOfTheProcess()))
+        delete scene.data();
     scenesOfTheProcess().clear();
 }
 
@@ -35,8 +37,9 @@ TonquillScene *makeSceneForTheProcess()
 {
     if (scenesOfTheProcess().isEmpty())
         qAddPostRoutine(destroyScenes);
-    scenesOfTheProcess().append(new TonquillScene);
-    return scenesOfTheProcess().constLast();
+    auto *scene = new TonquillScene;
+    scenesOfTheProcess().append(scene);
+    return scene;
 }
 
 void loadNotationFont()

@@ -3,6 +3,7 @@
 #include "Logging.h"
 #include "PageGeometry.h"
 #include "TonquillMainWin.h"
+#include "TonquillText.h"
 
 #include <QPrinter>
 
@@ -66,6 +67,8 @@ bool TonquillScene::isNewItemIsAdding()
         return false;
     removeItem(topmost->get(this));
     m_dropped.append(topmost->object());
+    if (m_contextText.data() == topmost->object())
+        m_contextText.clear();
     m_waiting.erase(std::next(topmost).base());
     return false;
 }

@@ -20,7 +20,7 @@ class TonquillTextBlock;
  * the dispatcher of every pointer and key event: events go to the selected items, which act by
  * their itemStatus. It owns its items, those that it dropped half-placed included.
  */
-class TonquillScene : public QGraphicsScene, private ItemRegistry
+class TonquillScene : public QGraphicsScene, public ItemRegistry
 {
     Q_OBJECT
 
@@ -85,6 +85,8 @@ public:
      */
     bool isNewItemIsAdding();
 
+    void itemAwaitsPlacing(QGraphicsItem *item, QObject *object) override;
+
     /** Builds a copy of every record that was copied so far, moved by 30. */
     void onPaste();
 
@@ -119,9 +121,6 @@ private:
     void place(QGraphicsItem *item, int x, int y, int offset);
     QPointF cursorPosition() const;
     static QString recordOf(QObject *item);
-
-    // Items
-    void itemAwaitsPlacing(QGraphicsItem *item, QObject *object) override;
 
     // Pointer
     QGraphicsItem *itemUnder(QPointF scenePos) const;

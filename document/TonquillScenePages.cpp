@@ -5,8 +5,6 @@
 
 #include <QPainter>
 
-#include <cmath>
-
 void TonquillScene::resizeToPages()
 {
     setSceneRect(0, 0, paperRect.width(), g_pMainWin->pageCount * pagePitch());
@@ -106,9 +104,14 @@ void TonquillScene::drawBackground(QPainter *painter, const QRectF &rect)
 {
     // The painter goes on to the items, which must not inherit the grey pen.
     painter->save();
-    const int pages = g_pMainWin->pageCount;
-    const int first = qMax(0, truncatedToInt(std::floor(rect.top() / pagePitch())) - 1);
-    const int last = qMin(pages - 1, truncatedToInt(std::floor(rect.bottom() / pagePitch())) + 1);
+    // Printing asks page by page: only those that the rectangle can show, else the cost of all
+    // pages would grow with the square of their number. No rectangle shows all.
+    int first = 0;
+    int last = g_pMainWin->pageCount - 1;
+    if (!rect.isEmpty()) {
+        first = qMax(first, truncatedToInt(rect.top() / pagePitch()) - 1);
+        last = qMin(last, truncatedToInt(rect.bottom() / pagePitch()) + 1);
+    }
     for (int i = first; i <= last; ++i)
         DrawPageBoundary(painter, i);
     painter->restore();

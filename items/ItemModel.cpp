@@ -29,6 +29,17 @@ void ItemModel::dragBy(QGraphicsItem *item, const QGraphicsSceneMouseEvent &even
     lastPointer = event.scenePos();
 }
 
+QFont ItemModel::largeBoldFont()
+{
+    static const QFont font = [] {
+        QFont large;
+        large.setWeight(QFont::Bold);
+        large.setPointSize(23);
+        return large;
+    }();
+    return font;
+}
+
 void ItemModel::takeMouseGrab(QGraphicsItem *item)
 {
     QGraphicsScene *scene = item->scene();

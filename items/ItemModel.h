@@ -2,6 +2,7 @@
 
 #include "Truncation.h"
 
+#include <QFont>
 #include <QGraphicsItem>
 
 class QGraphicsSceneMouseEvent;
@@ -55,6 +56,9 @@ bool onlyRightButtonHeld(const QGraphicsSceneMouseEvent &event);
 
 /** Moves `item` by the way from `lastPointer` to the event (scene units) and stores the event's. */
 void dragBy(QGraphicsItem *item, const QGraphicsSceneMouseEvent &event, QPointF &lastPointer);
+
+/** Bold, 23 points: the font that figures and time signatures carry. Shared by all of them. */
+QFont largeBoldFont();
 
 /**
  * Makes `item` the scene's mouse grabber. A text block keeps its grab after a drag, so the grab

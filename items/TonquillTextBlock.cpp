@@ -8,6 +8,7 @@
 #include <QGraphicsSceneContextMenuEvent>
 #include <QGraphicsSceneMouseEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QPainter>
 #include <QPointer>
 #include <QTextCursor>
@@ -53,15 +54,21 @@ TonquillTextBlock::TonquillTextBlock(bool adding, const QString &text, const QRe
     fitTextToWidth();
     setTextInteractionFlags(Qt::NoTextInteraction);
     setData(ItemData::keyword, Records::textblockKeyword());
-    fillSizeMenu();
 }
 
-void TonquillTextBlock::fillSizeMenu()
+TonquillTextBlock::~TonquillTextBlock() = default;
+
+/** The menu runs until it is closed; a document that arrives meanwhile takes this block away. */
+void TonquillTextBlock::openSizeMenu()
 {
-    m_sizeMenu.addAction(QStringLiteral("Font point size"));
-    m_sizeMenu.addSeparator();
-    for (const int size : pointSizes)
-        m_sizeMenu.addAction(QString::number(size), this, SLOT(onFontSizeChange()));
+    if (!m_sizeMenu) {
+        m_sizeMenu = std::make_unique<QMenu>();
+        m_sizeMenu->addAction(QStringLiteral("Font point size"));
+        m_sizeMenu->addSeparator();
+        for (const int size : pointSizes)
+            m_sizeMenu->addAction(QString::number(size), this, SLOT(onFontSizeChange()));
+    }
+    m_sizeMenu->exec(QCursor::pos());
 }
 
 bool TonquillTextBlock::isEdited(const QGraphicsTextItem &item)
@@ -106,7 +113,7 @@ QString TonquillTextBlock::getParamStr()
 void TonquillTextBlock::onFontSizeChange()
 {
     const auto *entry = qobject_cast<QAction *>(sender());
-    if (!entry || !m_sizeMenu.actions().contains(entry))
+    if (!entry || !m_sizeMenu || !m_sizeMenu->actions().contains(entry))
         return;
     QFont sized = font();
     sized.setPointSize(entry->text().toInt());
@@ -197,7 +204,7 @@ void TonquillTextBlock::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
     if (event->button() == Qt::LeftButton)
         finishDrag();
     if (self && event->button() == Qt::RightButton && m_itemStatus == ItemStatus::Placed)
-        m_sizeMenu.exec(QCursor::pos());
+        openSizeMenu();
 }
 
 /** The grab taken at the press is kept; the next item that is pressed takes it. */

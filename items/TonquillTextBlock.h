@@ -4,7 +4,10 @@
 #include "SelectionFrame.h"
 
 #include <QGraphicsTextItem>
-#include <QMenu>
+
+#include <memory>
+
+class QMenu;
 
 /**
  * A rectangle of text of several lines: a verse, a note to the player. Its width is set with the
@@ -25,6 +28,7 @@ public:
      */
     TonquillTextBlock(bool adding, const QString &text, const QRectF &rect,
                       QGraphicsItem *parent = nullptr);
+    ~TonquillTextBlock() override;
 
     /** True while any way of selecting or typing text is on. */
     static bool isEdited(const QGraphicsTextItem &item);
@@ -68,7 +72,7 @@ protected:
 
 private:
     bool isInEditor() const;
-    void fillSizeMenu();
+    void openSizeMenu();
     void startDrag(const QGraphicsSceneMouseEvent &event);
     void resizeTo(QPointF corner);
     void finishDrag();
@@ -82,5 +86,5 @@ private:
     QPointF m_topLeft;
     QPointF m_bottomRight;
     int m_resizeAnchor = 1;
-    QMenu m_sizeMenu;
+    std::unique_ptr<QMenu> m_sizeMenu; ///< made when it is first opened: most never are
 };

@@ -20,6 +20,7 @@ QFont numeralFont()
 
 TonquillTimeSig::TonquillTimeSig(int numerator, int denominator, bool adding, QGraphicsItem *parent)
     : QGraphicsObject(parent)
+    , m_font(ItemModel::largeBoldFont())
     , m_itemStatus(adding ? ItemStatus::Adding : ItemStatus::Placed)
     , m_frame(this)
     , m_numerator(numerator)
@@ -28,8 +29,6 @@ TonquillTimeSig::TonquillTimeSig(int numerator, int denominator, bool adding, QG
     setFlags(ItemIsMovable | ItemIsSelectable);
     setSelected(adding);
     setZValue(symbolZValue);
-    m_font.setWeight(QFont::Bold);
-    m_font.setPointSize(23);
     m_frame.setAnchors({boundingRect().topLeft()});
     setData(ItemData::keyword, Records::timesigKeyword());
 }

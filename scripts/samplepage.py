@@ -1,11 +1,10 @@
 """A page of glyphs to show the program with, as the host would send it."""
 
-STAFF_LINE, TREBLE_CLEF, COMMON_TIME, SHARP, DOT = 9, 2, 0, 4, 10
-QUARTER, QUARTER_REST, HALF, EIGHTH, SIXTEENTH = 19, 21, 16, 22, 25
-REPEAT_END = 8
+COMMON_TIME, TREBLE_CLEF, SHARP, REPEAT_END, STAFF_LINE, DOT = 0, 2, 4, 8, 9, 10
+HALF, QUARTER, QUARTER_REST, EIGHTH, SIXTEENTH = 16, 19, 21, 22, 25
 
 STAFF_SPACE = 8
-STAFF_LINE_WIDTH = 20
+STAFF_LINE_WIDTH = 18
 # From the middle of a note with its stem up to the middle of its head.
 HEAD_BELOW_MIDDLE = 13
 
@@ -33,16 +32,23 @@ def sample_page():
     middle = 200
     melody = [
         (QUARTER, -2), (QUARTER, -2), (QUARTER, -1), (QUARTER, 0),
-        (QUARTER, 0), (QUARTER, -1), (EIGHTH, -2), (EIGHTH, -3),
-        (HALF, -4), (SIXTEENTH, -3), (SIXTEENTH, -2),
+        (QUARTER, 0), (QUARTER, -1), (EIGHTH, -2), (EIGHTH, -3), (QUARTER_REST, 0),
+        (HALF, -3), (SIXTEENTH, -3), (SIXTEENTH, -2), (SIXTEENTH, -3), (SIXTEENTH, -4),
     ]  # fmt: skip
     records = ["tonquill_pagecount 1\n"]
-    records += staff(90, 650, middle)
+    records += staff(40, 688, middle)
     records += [
-        glyph(TREBLE_CLEF, 112, middle + 1),
-        glyph(SHARP, 134, middle - 16),
-        glyph(COMMON_TIME, 158, middle),
+        glyph(TREBLE_CLEF, 60, middle + 1),
+        glyph(SHARP, 82, middle - 16),
+        glyph(COMMON_TIME, 106, middle),
     ]
-    records += [note(symbol, 196 + 34 * i, middle, step) for i, (symbol, step) in enumerate(melody)]
-    records += [glyph(QUARTER_REST, 584, middle), glyph(REPEAT_END, 640, middle)]
+    for i, (symbol, step) in enumerate(melody):
+        x = 144 + 37 * i
+        if symbol == QUARTER_REST:
+            records.append(glyph(symbol, x, middle))
+        else:
+            records.append(note(symbol, x, middle, step))
+        if symbol == HALF:
+            records.append(glyph(DOT, x + 14, middle - step * STAFF_SPACE // 2))
+    records.append(glyph(REPEAT_END, 680, middle))
     return records

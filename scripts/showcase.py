@@ -11,19 +11,7 @@ sys.path.insert(0, str(scripts.parent / "tests" / "e2e"))
 from desktop import Desktop  # noqa: E402
 from host import Host  # noqa: E402
 from samplepage import sample_page  # noqa: E402
-from workbench import stop_after, wait_until  # noqa: E402
-
-
-def settled_picture(window):
-    """A picture of the window when it has stopped changing."""
-    seen = []
-
-    def unchanged():
-        seen.append(window.picture())
-        return len(seen) > 10 and all(picture == seen[-1] for picture in seen[-10:])
-
-    wait_until(unchanged, "the window comes to rest")
-    return seen[-1]
+from workbench import stop_after  # noqa: E402
 
 
 def main(build_folder, *arguments):
@@ -34,9 +22,10 @@ def main(build_folder, *arguments):
         try:
             window = desktop.window(program, "^Tonquill$")
             host.wait_for("received")
+            empty = window.picture_at_rest()
             host.send_document(sample_page())
-            picture = settled_picture(window)
-        except RuntimeError as error:
+            picture = window.picture_at_rest(other_than=empty)
+        except (RuntimeError, TimeoutError) as error:
             sys.exit(f"{error}\n{desktop.log('tonquill.log')}")
     file = build_folder / "tonquill.png"
     picture.save(file)

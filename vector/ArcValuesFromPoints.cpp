@@ -20,7 +20,8 @@ void ArcValuesFromPoints(float x1, float y1, float x2, float y2, float angle, fl
                          float *startAngle, float *endAngle, float *centreX, float *centreY)
 {
     const bool coinciding = x1 == x2 && y1 == y2;
-    const double chord = coinciding ? 0.0 : std::atan((y2 - y1) / (x2 - x1));
+    const double slope = (y2 - y1) / (x2 - x1);
+    const double chord = coinciding ? 0.0 : std::atan(slope);
     const float towardsCentre = static_cast<float>(chord * 180 / pi - 90);
     float start = -(angle * -0.5F + towardsCentre);
     float end = -(towardsCentre + angle * 0.5F);

@@ -9,6 +9,7 @@ TonquillVectorItem::TonquillVectorItem(const Kind &kind, bool adding, QPointF st
                                        QGraphicsItem *parent)
     : QGraphicsObject(parent)
     , m_kind(kind)
+    , m_font(ItemModel::largeBoldFont())
     , m_itemStatus(adding ? ItemStatus::Adding : ItemStatus::Placed)
     , m_start(adding ? QPointF(0, 0) : start)
     , m_end(adding ? kind.newEndPoint : end)
@@ -16,6 +17,8 @@ TonquillVectorItem::TonquillVectorItem(const Kind &kind, bool adding, QPointF st
 {
     setFlags(ItemIsMovable | ItemIsSelectable);
     setSelected(adding);
+    m_font.setWeight(QFont::Bold);
+    m_font.setPointSize(23);
     m_frame.setAnchors(kind.anchors == Anchors::AtPoints
                            ? QList<QPointF>{m_start, m_end}
                            : QList<QPointF>{spannedRect().topLeft(), spannedRect().bottomRight()});

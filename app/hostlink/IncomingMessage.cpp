@@ -25,9 +25,11 @@ bool IncomingMessage::isFromHost() const
 
 bool IncomingMessage::endsWithRecord() const
 {
-    if (m_bytes.endsWith('\n'))
+    if (m_bytes.endsWith('\n') || m_bytes.endsWith('|'))
         return true;
-    const QByteArray last = m_bytes.sliced(m_bytes.lastIndexOf('|') + 1);
+    // Asked with every piece, so only the end is looked at: hardly a record is longer.
+    const QByteArray tail = m_bytes.last(qMin(m_bytes.size(), smallPiece));
+    const QByteArray last = tail.sliced(tail.lastIndexOf('|') + 1);
     return !std::holds_alternative<std::monostate>(Records::parse(QString::fromLatin1(last)));
 }
 

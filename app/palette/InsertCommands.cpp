@@ -55,6 +55,7 @@ void InsertCommands::text()
 void InsertCommands::tempo(const QString &term)
 {
     qCDebug(lcTonquill) << "OnToolBar2ActionTempo";
+    qCDebug(lcTonquill) << "OnToolBar2ActionTempo action" << term;
     auto *item = new TonquillText(true);
     item->setFont(QFont(QStringLiteral("Arial"), 12));
     item->setPlainText(term);

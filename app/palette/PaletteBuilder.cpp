@@ -155,7 +155,7 @@ void PaletteBuilder::inkMenus()
 void PaletteBuilder::showToolBar2Icons(bool rests)
 {
     const QList<QIcon> &icons = rests ? m_toolBar2HeldIcons : m_toolBar2Icons;
-    for (int i = 0; i < icons.size(); ++i) {
+    for (int i = 0; i < m_window.tb2Count; ++i) {
         // The four menu buttons keep their icons.
         const int id = PaletteTable::toolBar2FirstId + i;
         if (!m_window.menus.contains(id))

@@ -56,12 +56,12 @@ void TonquillMainWin::onQuickTextAction(bool on)
 
 void TonquillMainWin::OnToolBar1ButtonSheetMusic()
 {
-    ui->toolBar2->setVisible(!ui->toolBar2->isVisible());
+    ui->toolBar2->setVisible(ui->toolBar2->isHidden());
 }
 
 void TonquillMainWin::OnToolBar1ButtonGuitarTabs()
 {
-    ui->toolBar3->setVisible(!ui->toolBar3->isVisible());
+    ui->toolBar3->setVisible(ui->toolBar3->isHidden());
 }
 
 void TonquillMainWin::OnToolBar3ButtonTextBlock()

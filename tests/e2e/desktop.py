@@ -1,6 +1,7 @@
 """A desktop of its own for a test: virtual screen, window manager, windows and pointer."""
 
 import os
+import time
 
 from picture import Picture
 from workbench import Workbench, tool, wait_until
@@ -136,6 +137,24 @@ class Window:
     def picture(self):
         """What is inside the frame now."""
         return self.desktop.picture().crop(*self.origin, *self.size)
+
+    def picture_at_rest(self, other_than=None, seconds=0.3):
+        """What is inside the frame once it is drawn and has not changed for this long.
+
+        With another picture given, it has to differ from that one too.
+        """
+        last, since = None, 0.0
+
+        def at_rest():
+            nonlocal last, since
+            now = self.picture()
+            if now != last:
+                last, since = now, time.monotonic()
+            drawn = not now.is_plain() and now != other_than
+            return drawn and time.monotonic() - since >= seconds
+
+        wait_until(at_rest, "the window is drawn and comes to rest")
+        return last
 
 
 def _shell_values(result):

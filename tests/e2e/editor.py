@@ -7,21 +7,28 @@ from host import Host
 
 
 class Editor:
-    """Tonquill, started on a desktop beside the stand-in for the host, and where things are in it.
+    """Tonquill, started on a desktop beside its host, and where things are in it.
 
-    Points of the page are in scene units, as in the records.
+    The host is the stand-in, or what start_host() starts and returns. Points of the page are in
+    scene units, as in the records.
     """
 
-    def __init__(self, desktop, programs, *arguments):
+    def __init__(self, desktop, programs, *arguments, start_host=None):
         programs = pathlib.Path(programs)
+        self.desktop = desktop
         # Before there is a host, so that it hears of the program only.
         self._layout = json.loads(desktop.run([programs / "tonquill-layoutdump"]).stdout)
-        self.host = Host(desktop, programs / "tonquill-hoststandin")
+        self.host = (start_host or (lambda: Host(desktop, programs / "tonquill-hoststandin")))()
         self.process = desktop.start([programs / "tonquill", *arguments], log="tonquill.log")
         self.window = desktop.window(self.process, "^Tonquill$")
         wanted = self._layout["window"]
         if self.window.size != (wanted["width"], wanted["height"]):
             raise AssertionError(f"the window has the size {self.window.size}, not {wanted}")
+        self.window.picture_at_rest()
+
+    def log(self):
+        """What the program has written to its output so far."""
+        return self.desktop.log("tonquill.log")
 
     def button(self, identifier):
         """The middle of a toolbar button, in the window."""
@@ -31,10 +38,12 @@ class Editor:
     def at(self, point):
         """The point of the window that shows this point of the page."""
         viewport, origin = self._layout["viewport"], self._layout["scene"]
-        x, y = viewport["x"] + point[0] - origin[0], viewport["y"] + point[1] - origin[1]
-        if (x, y) != (int(x), int(y)):
+        inside = [point[0] - origin[0], point[1] - origin[1]]
+        if inside != [round(inside[0]), round(inside[1])]:
             raise AssertionError(f"the page is not on whole pixels: {origin}")
-        return int(x), int(y)
+        if not (0 <= inside[0] < viewport["width"] and 0 <= inside[1] < viewport["height"]):
+            raise AssertionError(f"the window does not show {point}")
+        return viewport["x"] + round(inside[0]), viewport["y"] + round(inside[1])
 
     def click_button(self, identifier):
         self.window.click(self.button(identifier))

@@ -49,6 +49,11 @@ class Picture:
             row[4 * x : 4 * x + 3] == wanted for row in self._rows for x in range(self.width)
         )
 
+    def is_plain(self):
+        """Whether all of it has one colour."""
+        first = self._rows[0]
+        return first[4:] == first[:-4] and all(row == first for row in self._rows)
+
     def __eq__(self, other):
         return isinstance(other, Picture) and self._rows == other._rows
 

@@ -25,8 +25,10 @@ class GlyphRoundTripTest(unittest.TestCase):
     def setUp(self):
         desktop = self.enterContext(Desktop())
         PICTURES.mkdir(parents=True, exist_ok=True)
-        self.addCleanup(lambda: desktop.picture().save(PICTURES / "glyph-round-trip.png"))
         self.editor = Editor(desktop, PROGRAMS)
+        # What a failure leaves to look at.
+        self.addCleanup(lambda: desktop.picture().save(PICTURES / "glyph-round-trip.png"))
+        self.addCleanup(lambda: print(self.editor.log()))
         self.host = self.editor.host
 
     def test_places_shows_selects_and_moves_glyphs(self):

@@ -44,7 +44,7 @@ def stop_after(seconds):
 
 
 def _die_with_parent():
-    _prctl(_PR_SET_PDEATHSIG, signal.SIGKILL)
+    _prctl(_PR_SET_PDEATHSIG, signal.SIGTERM)
 
 
 class Workbench:

@@ -44,10 +44,15 @@ void ScenePointer::moveTo(QPointF scenePos)
     send(QEvent::GraphicsSceneMouseMove, scenePos, Qt::NoButton);
 }
 
-void ScenePointer::doubleClick(QPointF scenePos, Qt::MouseButton button)
+void ScenePointer::pressTwice(QPointF scenePos, Qt::MouseButton button)
 {
     m_held |= button;
     send(QEvent::GraphicsSceneMouseDoubleClick, scenePos, button);
+}
+
+void ScenePointer::doubleClick(QPointF scenePos, Qt::MouseButton button)
+{
+    pressTwice(scenePos, button);
     release(scenePos, button);
 }
 

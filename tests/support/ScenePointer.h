@@ -15,6 +15,8 @@ public:
     void press(QPointF scenePos, Qt::MouseButton button = Qt::LeftButton);
     void release(QPointF scenePos, Qt::MouseButton button = Qt::LeftButton);
     void moveTo(QPointF scenePos);
+    /** The second press of a double click, which is held until it is released. */
+    void pressTwice(QPointF scenePos, Qt::MouseButton button = Qt::LeftButton);
     void doubleClick(QPointF scenePos, Qt::MouseButton button = Qt::LeftButton);
     /** Moves there, presses and releases. */
     void click(QPointF scenePos, Qt::MouseButton button = Qt::LeftButton);
@@ -22,6 +24,8 @@ public:
     void drag(QPointF from, QPointF to, Qt::MouseButton button = Qt::LeftButton);
 
     Qt::MouseButtons held() const { return m_held; }
+    /** Has exactly these buttons held from now on, as if the change had gone to another window. */
+    void setHeld(Qt::MouseButtons buttons) { m_held = buttons; }
 
 private:
     void send(int type, QPointF scenePos, Qt::MouseButton button);

@@ -1,0 +1,151 @@
+#include "BareScene.h"
+#include "Comparison.h"
+#include "Editor.h"
+#include "Rows.h"
+#include "ScenePointer.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QPainterPath>
+
+namespace
+{
+/** What the pointer and arrow rows are held against has this many items. */
+constexpr int fewItems = 100;
+constexpr int steps = 1000;
+
+/** From the left button's release to the last byte given to the system. */
+double finishEdit(int count)
+{
+    Editor editor;
+    editor.load(SampleDocument::glyphs(count));
+    editor.connectToHost();
+    ScenePointer pointer(editor.scene());
+    const QPointF paper(2, 2);
+    pointer.press(paper);
+    pointer.release(paper); // ends a rubber band, which sends nothing
+    return cpuSeconds([&] {
+        pointer.release(paper);
+        editor.writeOut();
+    });
+}
+
+double askEachByName(int count)
+{
+    BareScene scene(count, BareScene::Glyphs::CallableByName);
+    scene.addBareItems(SampleDocument::glyphs(count));
+    return cpuSeconds([&] {
+        for (QGraphicsItem *item : scene.items()) {
+            if (item->parentItem())
+                continue;
+            QString record;
+            QMetaObject::invokeMethod(static_cast<BareGlyphObject *>(item), "getParamStr",
+                                      Qt::DirectConnection, Q_RETURN_ARG(QString, record));
+        }
+    });
+}
+
+QRectF firstPage(int)
+{
+    return g_pMainWin->scene->paperRect;
+}
+
+QRectF allPages(int count)
+{
+    QRectF area = g_pMainWin->scene->paperRect;
+    area.setHeight(SampleDocument::pagesFor(count) * g_pMainWin->scene->pagePitch());
+    return area;
+}
+
+using Area = QRectF (*)(int count);
+
+/** The release of a rubber band. */
+double rubberBand(int count, Area area)
+{
+    Editor editor;
+    editor.load(SampleDocument::glyphs(count));
+    ScenePointer pointer(editor.scene());
+    pointer.press(area(count).topLeft());
+    pointer.moveTo(area(count).bottomRight());
+    return cpuSeconds([&] { pointer.release(area(count).bottomRight()); });
+}
+
+double setSelectionArea(int count, Area area)
+{
+    BareScene scene(count);
+    scene.addBareItems(SampleDocument::glyphs(count));
+    scene.settle();
+    QPainterPath path;
+    path.addRect(area(count));
+    return cpuSeconds(
+        [&] { scene.setSelectionArea(path, Qt::ReplaceSelection, Qt::ContainsItemBoundingRect); });
+}
+
+void compareRubberBand(const char *operation, Area area)
+{
+    compare({.operation = operation,
+             .ours = [area](int count) { return rubberBand(count, area); },
+             .floor = [area](int count) { return setSelectionArea(count, area); }});
+}
+
+void selectOneItem(Editor &editor)
+{
+    editor.scene()
+        .itemAt(SampleDocument::glyphs(1).front().position, QTransform())
+        ->topLevelItem()
+        ->setSelected(true);
+}
+
+/** A move of the pointer over the page, with one item selected and no button held. */
+double movePointer(int count)
+{
+    Editor editor;
+    editor.load(SampleDocument::glyphs(count));
+    selectOneItem(editor);
+    ScenePointer pointer(editor.scene());
+    int x = 0;
+    return cpuSecondsOfOne(steps, [&] { pointer.moveTo(QPointF(x++ % 600, 300)); });
+}
+
+/** A move of the pointer that drags the selected item. */
+double dragItem(int count)
+{
+    Editor editor;
+    editor.load(SampleDocument::glyphs(count));
+    selectOneItem(editor);
+    ScenePointer pointer(editor.scene());
+    pointer.press(SampleDocument::glyphs(1).front().position);
+    int x = 0;
+    return cpuSecondsOfOne(steps, [&] { pointer.moveTo(QPointF(x++ % 600, 300)); });
+}
+
+double pressArrow(int count)
+{
+    Editor editor;
+    editor.load(SampleDocument::glyphs(count));
+    selectOneItem(editor);
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier);
+    return cpuSecondsOfOne(steps, [&] { QCoreApplication::sendEvent(&editor.scene(), &press); });
+}
+
+void compareWithFewItems(const char *operation, double (*measure)(int))
+{
+    compare({.operation = operation,
+             .ours = measure,
+             .floor = [measure](int) { return measure(fewItems); },
+             .counts = {1000, 10000, 50000, 100000}});
+}
+} // namespace
+
+void Rows::addEditing()
+{
+    compare({.operation = "finish an edit",
+             .ours = finishEdit,
+             .floor = askEachByName,
+             .counts = {1000, 10000, 50000, 100000}});
+    compareRubberBand("rubber band over one page", firstPage);
+    compareRubberBand("rubber band over everything", allPages);
+    compareWithFewItems("pointer move, one item selected", movePointer);
+    compareWithFewItems("drag of one item", dragItem);
+    compareWithFewItems("arrow key, one item selected", pressArrow);
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+/** The rows of the table, by topic. */
+namespace Rows
+{
+void addDocument(); ///< receiving, clearing
+void addEditing();  ///< finishing an edit, deleting, selecting, moving
+void addPages();    ///< inserting and deleting a page
+void addPainting(); ///< repainting the view
+void addPrinting(); ///< printing to PDF
+void addMemory();   ///< resident memory of an item
+void addStart();    ///< from exec to the first painted frame
+} // namespace Rows

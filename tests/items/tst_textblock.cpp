@@ -1,0 +1,419 @@
+#include "ItemProbe.h"
+#include "ModalAnswer.h"
+#include "ScenePointer.h"
+#include "TestMain.h"
+#include "TonquillMainWin.h"
+#include "TonquillScene.h"
+#include "TonquillTextBlock.h"
+
+#include <QKeyEvent>
+#include <QTextDocument>
+
+using namespace ModalAnswer;
+
+namespace
+{
+QString placeholder()
+{
+    return "Text Block:\r\n\r\nSet the size with the Mouse.\r\nDouble-click to Edit.";
+}
+
+/** The text as the document holds it: each of its line ends is one character. */
+QString asShown(QString text)
+{
+    return text.replace("\r\n", "\n");
+}
+
+void sendKey(QGraphicsScene *scene, QEvent::Type type, int key, const QString &text)
+{
+    QKeyEvent event(type, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(scene, &event);
+}
+
+void typeKey(QGraphicsScene *scene, int key, const QString &text)
+{
+    sendKey(scene, QEvent::KeyPress, key, text);
+    sendKey(scene, QEvent::KeyRelease, key, text);
+}
+} // namespace
+
+/** The block of text of several lines. */
+class TextBlockTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_window.scene->clearScene(); }
+    void startsByItsFlag_data();
+    void startsByItsFlag();
+    void withoutTextAndSizeTellsHowToUseIt();
+    void withSizeOnlyStaysEmpty();
+    void withTextOnlyHasNoHeight();
+    void onlyTheSizeOfTheRectangleCounts();
+    void topLeftAnchorMoves();
+    void cornersAreNeverNormalised_data();
+    void cornersAreNeverNormalised();
+    void resizingWrapsTheText();
+    void keepsItsGrabAfterADragAndOthersTakeIt();
+    void doubleClickEditsUntilFocusIsLost();
+    void frameFollowsTyping();
+    void keysAreIgnoredAtRest();
+    void pressWhileEditedMovesNothing();
+    void sizeMenuEntries();
+    void sizeMenuSetsThePointSize_data();
+    void sizeMenuSetsThePointSize();
+    void sizeMenuOpensOnlyAtRest_data();
+    void sizeMenuOpensOnlyAtRest();
+    void otherSendersDoNotSetTheSize();
+    void blockMayGoWhileItsMenuIsOpen();
+    void fontIsLostWithTheRecord();
+    void longTextIsRecordedAndReadBack();
+    void recordOfACrossedBlockIsReadBack();
+
+private:
+    TonquillTextBlock *place(const QString &text = QStringLiteral("verse"));
+    void edit(TonquillTextBlock *block);
+
+    TonquillMainWin m_window;
+};
+
+/** A selected block at (100, 200), (0, 0) to (121, 80) in its own coordinates. */
+TonquillTextBlock *TextBlockTest::place(const QString &text)
+{
+    auto *block = new TonquillTextBlock(false, text, QRectF(0, 0, 120, 80));
+    m_window.scene->addNewItem(block);
+    block->setPos(100, 200);
+    block->setSelected(true);
+    return block;
+}
+
+/** Double-clicks the block, on a scene that has the keyboard. */
+void TextBlockTest::edit(TonquillTextBlock *block)
+{
+    QEvent activate(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(m_window.scene, &activate);
+    m_window.scene->setFocus();
+    ScenePointer(*m_window.scene).doubleClick(block->mapToScene(QPointF(30, 10)));
+    QCOMPARE(block->textInteractionFlags(), Qt::TextEditorInteraction);
+    QVERIFY(block->hasFocus());
+}
+
+void TextBlockTest::startsByItsFlag_data()
+{
+    QTest::addColumn<bool>("adding");
+    QTest::newRow("new") << true;
+    QTest::newRow("from a record") << false;
+}
+
+void TextBlockTest::startsByItsFlag()
+{
+    QFETCH(bool, adding);
+    const TonquillTextBlock block(adding, "verse", QRectF(0, 0, 50, 20));
+    QCOMPARE(block.isSelected(), adding);
+    QCOMPARE(block.itemStatus(), adding ? 1 : 0);
+    QCOMPARE(block.type(), 65536 + 2);
+    QCOMPARE(int(block.flags()), 3);
+    QCOMPARE(block.zValue(), 10.0);
+    QCOMPARE(ItemProbe::frameOf(block)->zValue(), 0.0);
+    QCOMPARE(block.textInteractionFlags(), Qt::NoTextInteraction);
+    QCOMPARE(block.data(257).toString(), QString("tonquill_textblock_begin"));
+}
+
+void TextBlockTest::withoutTextAndSizeTellsHowToUseIt()
+{
+    const TonquillTextBlock block(true, QString(), QRectF());
+    QCOMPARE(block.toPlainText(), asShown(placeholder()));
+    QTextDocument document;
+    document.setDefaultFont(block.font());
+    document.setPlainText(placeholder());
+    QCOMPARE(block.boundingRect(),
+             QRectF(0, 0, document.size().width() + 1, document.size().height()));
+    QPointF anchor;
+    QCOMPARE(ItemProbe::frameOf(block)->getAnchor(block.boundingRect().bottomRight(), anchor), 1);
+    QCOMPARE(anchor, block.boundingRect().bottomRight());
+}
+
+void TextBlockTest::withSizeOnlyStaysEmpty()
+{
+    const TonquillTextBlock block(false, QString(), QRectF(0, 0, 90, 40));
+    QVERIFY(block.toPlainText().isEmpty());
+    QCOMPARE(block.boundingRect(), QRectF(0, 0, 90 + 1, 40));
+    const TonquillTextBlock flat(false, QString(), QRectF(0, 0, 90, 0));
+    QVERIFY(flat.toPlainText().isEmpty());
+    QCOMPARE(flat.boundingRect(), QRectF(0, 0, 90 + 1, 0));
+}
+
+void TextBlockTest::withTextOnlyHasNoHeight()
+{
+    const TonquillTextBlock block(false, "verse", QRectF(0, 0, 0, 0));
+    QCOMPARE(block.toPlainText(), QString("verse"));
+    QCOMPARE(block.boundingRect(), QRectF(0, 0, 0 + 1, 0));
+}
+
+void TextBlockTest::onlyTheSizeOfTheRectangleCounts()
+{
+    const TonquillTextBlock block(false, "verse", QRectF(500, 600, 90, 40));
+    QCOMPARE(block.pos(), QPointF(0, 0));
+    QCOMPARE(block.boundingRect(), QRectF(0, 0, 90 + 1, 40));
+    QCOMPARE(block.textWidth(), 90.0);
+}
+
+void TextBlockTest::topLeftAnchorMoves()
+{
+    const TonquillTextBlock *block = place();
+    ScenePointer(*m_window.scene).drag(QPointF(100, 200), QPointF(130, 250));
+    QCOMPARE(block->pos(), QPointF(130, 250));
+    QCOMPARE(block->boundingRect(), QRectF(0, 0, 121, 80));
+}
+
+void TextBlockTest::cornersAreNeverNormalised_data()
+{
+    QTest::addColumn<QPointF>("to");
+    QTest::addColumn<QRectF>("bounds");
+    QTest::addColumn<QString>("size");
+    // The block stands at (100, 200).
+    QTest::newRow("smaller") << QPointF(150, 230) << QRectF(0, 0, 50, 30) << "50 30";
+    QTest::newRow("left of itself") << QPointF(40, 260) << QRectF(0, 0, -60, 60) << "-60 60";
+    QTest::newRow("above itself") << QPointF(180, 150) << QRectF(0, 0, 80, -50) << "80 -50";
+    QTest::newRow("left and above") << QPointF(70, 190) << QRectF(0, 0, -30, -10) << "-30 -10";
+    QTest::newRow("onto its corner") << QPointF(100, 200) << QRectF(0, 0, 0, 0) << "0 0";
+}
+
+void TextBlockTest::cornersAreNeverNormalised()
+{
+    QFETCH(QPointF, to);
+    QFETCH(QRectF, bounds);
+    QFETCH(QString, size);
+    TonquillTextBlock *block = place("a verse of several words");
+    ScenePointer(*m_window.scene).drag(QPointF(221, 280), to);
+    QCOMPARE(block->itemStatus(), 0);
+    QCOMPARE(block->boundingRect(), bounds);
+    QVERIFY(ItemProbe::frameOf(*block)->isAnchor(bounds.bottomRight()));
+    QCOMPARE(block->getParamStr(),
+             QString("tonquill_textblock_begin 100 200 %1\na verse of several words\n"
+                     "tonquill_textblock_end\n")
+                 .arg(size));
+    QVERIFY(!ItemProbe::pictureOf(*m_window.scene, QRectF(0, 100, 300, 300)).isNull());
+    // It can still be moved, deleted and found.
+    m_window.scene->itemAt(to, QTransform());
+    block->moveBy(10, 10);
+}
+
+void TextBlockTest::resizingWrapsTheText()
+{
+    const TonquillTextBlock *block = place("one two three four five six seven");
+    const qreal heightBefore = block->document()->size().height();
+    ScenePointer(*m_window.scene).drag(QPointF(221, 280), QPointF(151, 280));
+    QCOMPARE(block->boundingRect(), QRectF(0, 0, 51, 80));
+    QCOMPARE(block->textWidth(), 51.0 - 1.0);
+    QVERIFY(block->document()->size().height() > heightBefore);
+}
+
+void TextBlockTest::keepsItsGrabAfterADragAndOthersTakeIt()
+{
+    TonquillTextBlock *first = place();
+    ScenePointer pointer(*m_window.scene);
+    pointer.drag(QPointF(150, 240), QPointF(160, 250));
+    QCOMPARE(m_window.scene->mouseGrabberItem(), first);
+
+    first->setSelected(false);
+    TonquillTextBlock *second = place();
+    second->setPos(400, 200);
+    pointer.drag(QPointF(450, 240), QPointF(455, 260));
+    QCOMPARE(m_window.scene->mouseGrabberItem(), second);
+    QCOMPARE(second->pos(), QPointF(405, 220));
+    QCOMPARE(first->pos(), QPointF(110, 210));
+}
+
+void TextBlockTest::doubleClickEditsUntilFocusIsLost()
+{
+    TonquillTextBlock *block = place();
+    edit(block);
+    m_window.scene->setFocusItem(nullptr);
+    QCOMPARE(block->textInteractionFlags(), Qt::NoTextInteraction);
+    QCOMPARE(block->itemStatus(), 0);
+}
+
+void TextBlockTest::frameFollowsTyping()
+{
+    TonquillTextBlock *block = place();
+    edit(block);
+    typeKey(m_window.scene, Qt::Key_End, QString());
+    // From the first key on the block is as large as its text, not as the mouse made it.
+    const QRectF before = block->boundingRect();
+    QVERIFY(before.height() < 80);
+    for (int i = 0; i < 20; ++i)
+        typeKey(m_window.scene, Qt::Key_W, "w");
+    QCOMPARE(block->toPlainText(), "verse" + QString(20, 'w'));
+    const QRectF widened = block->boundingRect();
+    QVERIFY(widened.width() > before.width());
+    QPointF anchor;
+    QCOMPARE(ItemProbe::frameOf(*block)->getAnchor(widened.bottomRight(), anchor), 1);
+    QCOMPARE(anchor, widened.bottomRight());
+
+    typeKey(m_window.scene, Qt::Key_Return, "\r");
+    QVERIFY(block->boundingRect().height() > widened.height());
+}
+
+void TextBlockTest::keysAreIgnoredAtRest()
+{
+    TonquillTextBlock *block = place();
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_W, Qt::NoModifier, "w");
+    m_window.scene->sendEvent(block, &press);
+    QVERIFY(!press.isAccepted());
+    QCOMPARE(block->toPlainText(), QString("verse"));
+    QCOMPARE(block->boundingRect(), QRectF(0, 0, 121, 80));
+}
+
+void TextBlockTest::pressWhileEditedMovesNothing()
+{
+    TonquillTextBlock *block = place();
+    edit(block);
+    ScenePointer(*m_window.scene).drag(QPointF(130, 210), QPointF(170, 230));
+    QCOMPARE(block->pos(), QPointF(100, 200));
+    QCOMPARE(block->itemStatus(), 0);
+    QCOMPARE(block->textInteractionFlags(), Qt::TextEditorInteraction);
+}
+
+void TextBlockTest::sizeMenuEntries()
+{
+    place();
+    QStringList entries;
+    whenOpen<QMenu>([&entries](QMenu &menu) {
+        for (const QAction *action : menu.actions())
+            entries.append(action->isSeparator() ? "-" : action->text());
+    });
+    ScenePointer(*m_window.scene).click(QPointF(150, 240), Qt::RightButton);
+    QCOMPARE(entries, (QStringList{"Font point size", "-", "8", "9", "10", "11", "12", "14", "16",
+                                   "18", "20", "22", "24", "26", "28", "30", "32", "34", "36"}));
+}
+
+void TextBlockTest::sizeMenuSetsThePointSize_data()
+{
+    QTest::addColumn<int>("entry");
+    QTest::addColumn<int>("size");
+    QTest::newRow("smallest") << 2 << 8;
+    QTest::newRow("12") << 6 << 12;
+    QTest::newRow("largest") << 18 << 36;
+    QTest::newRow("the heading does nothing") << 0 << 20;
+}
+
+void TextBlockTest::sizeMenuSetsThePointSize()
+{
+    QFETCH(int, entry);
+    QFETCH(int, size);
+    TonquillTextBlock *block = place();
+    QFont font = block->font();
+    font.setPointSize(20);
+    block->setFont(font);
+    whenOpen<QMenu>([entry](QMenu &menu) { choose(menu, entry); });
+    ScenePointer(*m_window.scene).click(QPointF(150, 240), Qt::RightButton);
+    QCOMPARE(block->font().pointSize(), size);
+    QCOMPARE(block->boundingRect(), QRectF(0, 0, 121, 80));
+    if (size != 20)
+        QCOMPARE(block->textWidth(), 121.0 - 1.0);
+}
+
+void TextBlockTest::sizeMenuOpensOnlyAtRest_data()
+{
+    QTest::addColumn<bool>("adding");
+    QTest::addColumn<QPointF>("held");
+    QTest::newRow("being added") << true << QPointF();
+    QTest::newRow("being moved") << false << QPointF(150, 240);
+    QTest::newRow("being resized") << false << QPointF(221, 280);
+}
+
+/** A menu that opened would block, so it is closed and counted. */
+void TextBlockTest::sizeMenuOpensOnlyAtRest()
+{
+    QFETCH(bool, adding);
+    QFETCH(QPointF, held);
+    ScenePointer pointer(*m_window.scene);
+    if (adding) {
+        auto *block = new TonquillTextBlock(true, "verse", QRectF(0, 0, 120, 80));
+        m_window.scene->addNewItem(block);
+        pointer.moveTo(QPointF(100, 200));
+    } else {
+        place();
+        pointer.press(held);
+    }
+    int opened = 0;
+    QTimer watch;
+    connect(&watch, &QTimer::timeout, this, [&opened] {
+        if (QWidget *popup = QApplication::activePopupWidget()) {
+            ++opened;
+            popup->close();
+        }
+    });
+    watch.start(0);
+    pointer.press(QPointF(150, 240), Qt::RightButton);
+    pointer.release(QPointF(150, 240), Qt::RightButton);
+    QCOMPARE(opened, 0);
+}
+
+void TextBlockTest::otherSendersDoNotSetTheSize()
+{
+    TonquillTextBlock *block = place();
+    const int size = block->font().pointSize();
+    block->onFontSizeChange();
+    QAction stranger("36");
+    connect(&stranger, SIGNAL(triggered()), block, SLOT(onFontSizeChange()));
+    stranger.trigger();
+    QCOMPARE(block->font().pointSize(), size);
+}
+
+/** A document that arrives while the menu is open takes the block away, its menu with it. */
+void TextBlockTest::blockMayGoWhileItsMenuIsOpen()
+{
+    place();
+    whenOpen<QMenu>([this](QMenu &) { m_window.scene->clearScene(); });
+    ScenePointer(*m_window.scene).click(QPointF(150, 240), Qt::RightButton);
+    QVERIFY(ItemProbe::documentItems(*m_window.scene).isEmpty());
+}
+
+void TextBlockTest::fontIsLostWithTheRecord()
+{
+    TonquillTextBlock *block = place();
+    const int usual = block->font().pointSize();
+    whenOpen<QMenu>([](QMenu &menu) { choose(menu, 18); });
+    ScenePointer(*m_window.scene).click(QPointF(150, 240), Qt::RightButton);
+    QCOMPARE(block->font().pointSize(), 36);
+    const QString record = block->getParamStr();
+    m_window.scene->clearScene();
+    m_window.scene->constructItem(record, false, 0);
+    auto *copy = qgraphicsitem_cast<TonquillTextBlock *>(ItemProbe::onlyItem(*m_window.scene));
+    QCOMPARE(copy->font().pointSize(), usual);
+}
+
+void TextBlockTest::longTextIsRecordedAndReadBack()
+{
+    // 2,000 words of five characters with a blank or a line break after each 4.
+    QString text;
+    for (int i = 0; i < 2000; ++i)
+        text += QString("%1%2").arg(i % 10000, 4, 10, QChar('0')).arg(i % 10 == 9 ? '\n' : ' ');
+    QCOMPARE(text.size(), 10000);
+    TonquillTextBlock *block = place(text);
+    QVERIFY(!ItemProbe::pictureOf(*m_window.scene, QRectF(100, 200, 120, 80)).isNull());
+
+    m_window.scene->constructItem(block->getParamStr(), false, 0);
+    QList<QGraphicsItem *> items = ItemProbe::documentItems(*m_window.scene);
+    QCOMPARE(items.size(), 2);
+    items.removeOne(block);
+    // Read back it has gained the line break in front of its end.
+    QCOMPARE(qgraphicsitem_cast<TonquillTextBlock *>(items.constFirst())->toPlainText(),
+             text + "\n");
+}
+
+void TextBlockTest::recordOfACrossedBlockIsReadBack()
+{
+    m_window.scene->constructItem(
+        "tonquill_textblock_begin 100 200 -60 -10\nverse\ntonquill_textblock_end\n", false, 0);
+    QGraphicsItem *block = ItemProbe::onlyItem(*m_window.scene);
+    QVERIFY(block);
+    // One unit wider, and so nearer to nothing.
+    QCOMPARE(block->boundingRect(), QRectF(0, 0, -59, -10));
+    QVERIFY(!ItemProbe::pictureOf(*m_window.scene, QRectF(0, 100, 300, 300)).isNull());
+}
+
+TONQUILL_TEST_MAIN(TextBlockTest)
+#include "tst_textblock.moc"
