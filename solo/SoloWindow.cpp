@@ -3,7 +3,6 @@
 #include "MenuBar.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QEvent>
 #include <QMessageBox>
 
@@ -85,7 +84,7 @@ void SoloWindow::quit()
     if (m_files.mayLeave()) {
         m_session.close();
         m_window.hide();
-        QCoreApplication::exit(0);
+        Q_EMIT finished();
     }
     m_leaving = false;
 }
