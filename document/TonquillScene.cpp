@@ -43,7 +43,12 @@ TonquillScene::~TonquillScene()
 void TonquillScene::addNewItem(QGraphicsItem *item)
 {
     addItem(item);
-    m_lastAdded = ItemReference(item);
+    // Of a document only the last item is remembered: watching each in turn would cost as much
+    // memory and time as two of its coordinates.
+    if (m_isBuildingDocument)
+        m_lastBuilt = item;
+    else
+        m_lastAdded = ItemReference(item);
 }
 
 void TonquillScene::itemAwaitsPlacing(QGraphicsItem *item, QObject *object)

@@ -74,6 +74,9 @@ public:
      */
     void constructItem(const QString &record, bool adding, int offset);
 
+    /** Builds an item from each of the records, which are separated by "|". */
+    void constructDocument(QStringView records);
+
     // Items
 
     /** Adds the item, which the scene then owns, and remembers it as the last added one. */
@@ -143,6 +146,8 @@ private:
     void addSameItem();
 
     ItemReference m_lastAdded;
+    bool m_isBuildingDocument = false;
+    QGraphicsItem *m_lastBuilt = nullptr; ///< while a document is built
     QList<ItemReference> m_waiting;       ///< items that were added to be placed
     QList<QPointer<QObject>> m_dropped;   ///< taken off half-placed, still owned
     QPointer<TonquillText> m_contextText; ///< whose context menu is open, or was

@@ -1,7 +1,7 @@
 #include "PaperPainting.h"
 
+#include <QPaintDevice>
 #include <QPainter>
-#include <QPrinter>
 
 namespace
 {
@@ -12,7 +12,8 @@ constexpr qreal pointsPerInch = 72.0;
 
 bool PaperPainting::isPrinter(const QPainter &painter)
 {
-    return dynamic_cast<QPrinter *>(painter.device()) != nullptr;
+    // Asked for every item that is painted, so not by a dynamic_cast.
+    return painter.device() && painter.device()->devType() == QInternal::Printer;
 }
 
 QStyleOptionGraphicsItem PaperPainting::optionFor(const QPainter &painter,

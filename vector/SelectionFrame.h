@@ -2,6 +2,7 @@
 
 #include <QGraphicsItem>
 #include <QList>
+#include <QVarLengthArray>
 
 /**
  * The anchors of one document item, held by that item as a member and shown as its child.
@@ -51,5 +52,6 @@ protected:
     void mouseRelaseEvent(QGraphicsSceneMouseEvent *event);
 
 private:
-    QList<QPointF> m_anchors;
+    /** Kept within the frame: no item has more than two, and there are as many frames as items. */
+    QVarLengthArray<QPointF, 2> m_anchors;
 };
