@@ -51,6 +51,10 @@ void loadNotationFont()
 } // namespace
 
 TonquillMainWin::TonquillMainWin(QWidget *parent)
+    : TonquillMainWin(HostConnection::AtOnce, parent)
+{}
+
+TonquillMainWin::TonquillMainWin(HostConnection connection, QWidget *parent)
     : QMainWindow(parent)
     , ui(new Ui_TonquillMainWin)
     , m_printer(QPrinter::ScreenResolution)
@@ -83,7 +87,8 @@ TonquillMainWin::TonquillMainWin(QWidget *parent)
     connect(ui->sb_page, SIGNAL(valueChanged(int)), this, SLOT(OnSetCurPage(int)));
     ui->graphicsView->centerOn(QPointF(0, 0));
     setWindowState(Qt::WindowActive);
-    socket.connectToServer(QStringLiteral("trackwrightqt"), QIODevice::ReadWrite);
+    if (connection == HostConnection::AtOnce)
+        connectToHost();
     setWindowFlags(windowFlags() & ~(Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint));
     setFocusPolicy(Qt::ClickFocus);
 }

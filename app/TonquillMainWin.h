@@ -32,7 +32,14 @@ class TonquillMainWin : public QMainWindow
     Q_OBJECT
 
 public:
+    /** Whether a window looks for its host as soon as it is built. */
+    enum class HostConnection {
+        AtOnce,
+        Later ///< when whoever built it calls connectToHost()
+    };
+
     explicit TonquillMainWin(QWidget *parent = nullptr);
+    explicit TonquillMainWin(HostConnection connection, QWidget *parent = nullptr);
     ~TonquillMainWin() override;
 
     // What the scene, the palette and embedding programs read and write directly.
@@ -54,6 +61,9 @@ public:
 
     /** The printer of every print, preview and page setup while the program runs. */
     QPrinter &sharedPrinter() { return m_printer; }
+
+    /** Connects to the host, if one is listening; otherwise the editor runs alone. */
+    void connectToHost();
 
     /** The view of the scene. */
     TonquillView *view() const;

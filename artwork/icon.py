@@ -1,4 +1,4 @@
-"""The application icon: coloured layers to pictures, to the .ico file and to SVG."""
+"""The application icon and the one of its files: coloured layers to pictures, .ico and SVG."""
 
 import io
 import struct
@@ -9,6 +9,12 @@ import raster
 
 SIDE = 64                       # drawing units of the icon's side
 ICO_SIZES = (16, 32, 48, 256)
+DESKTOP_SIZES = (16, 32, 48)    # beside the SVG and the 256 pixels that the program itself shows
+
+# A sheet with its corner turned down; the emblem stands on it at six tenths of its size.
+SHEET = """<path fill="#fdfdfb" stroke="#8a8f99" d="M12.5 1.5H40.5L52.5 13.5V62.5H12.5Z"/>
+<path fill="#d9dce2" stroke="#8a8f99" stroke-linejoin="round" d="M40.5 1.5V13.5H52.5Z"/>
+<g transform="translate(13.3 19) scale(0.6)">"""
 
 
 def layers(drawings):
@@ -41,6 +47,23 @@ def _gradient(box, fill, size):
 
 def svg(drawings):
     """The icon as SVG text, y turned down."""
+    shades, shapes = _parts(drawings)
+    return _document(["<defs>", *shades, "</defs>", *shapes])
+
+
+def file_svg(drawings):
+    """The icon of the program's files as SVG text: a sheet of paper that bears the emblem."""
+    shades, shapes = _parts(drawings)
+    return _document(["<defs>", *shades, "</defs>", SHEET, *shapes, "</g>"])
+
+
+def _document(lines):
+    return "\n".join([f'<svg xmlns="http://www.w3.org/2000/svg" width="{SIDE}" height="{SIDE}" '
+                      f'viewBox="0 0 {SIDE} {SIDE}">', *lines, "</svg>", ""])
+
+
+def _parts(drawings):
+    """The gradients and the filled paths of the layers, back to front."""
     shades, shapes = [], []
     for layer in layers(drawings):
         top, bottom = layer.fill
@@ -49,9 +72,7 @@ def svg(drawings):
                       f'<stop offset="1" stop-color="{bottom}"/></linearGradient>')
         path = " ".join(_path(polygon) for polygon in drawings.contours(layer.name))
         shapes.append(f'<path fill="url(#{layer.name})" d="{path}"/>')
-    return "\n".join([f'<svg xmlns="http://www.w3.org/2000/svg" width="{SIDE}" height="{SIDE}" '
-                      f'viewBox="0 0 {SIDE} {SIDE}">', "<defs>", *shades, "</defs>", *shapes,
-                      "</svg>", ""])
+    return shades, shapes
 
 
 def _path(polygon):
@@ -74,8 +95,11 @@ def ico(drawings):
 
 
 def write(drawings, folder, images):
-    """Write the SVG into folder, the .ico and the PNG into images; return those two names."""
+    """Write the desktop's icons into folder, the program's own into images; return the latter."""
     (folder / "tonquill.svg").write_text(svg(drawings), encoding="utf-8")
+    (folder / "application-x-tonquill.svg").write_text(file_svg(drawings), encoding="utf-8")
+    for size in DESKTOP_SIZES:
+        picture(drawings, size).save(folder / f"tonquill-{size}.png", optimize=True)
     (images / "Tonquill.ico").write_bytes(ico(drawings))
     picture(drawings, 256).save(images / "tonquill-icon-256.png", optimize=True)
     return ["Tonquill.ico", "tonquill-icon-256.png"]

@@ -21,6 +21,13 @@ QGraphicsItem *make(bool adding, QPointF start, QPointF end)
 
 QGraphicsItem *ItemFactory::makeVectorItem(const Records::Vector &record, bool adding)
 {
+    return makeVectorItem(record.keyword, adding, QPointF(record.startX, record.startY),
+                          QPointF(record.endX, record.endY));
+}
+
+QGraphicsItem *ItemFactory::makeVectorItem(const QString &keyword, bool adding, QPointF start,
+                                           QPointF end)
+{
     static const QHash<QString, Maker> makers{
         {Records::grandstaffKeyword(), make<TonquillVectorGrandstaff>},
         {Records::interactivelineKeyword(), make<TonquillVectorInteractiveLine>},
@@ -28,6 +35,6 @@ QGraphicsItem *ItemFactory::makeVectorItem(const Records::Vector &record, bool a
         {Records::notetieKeyword(), make<TonquillVectorNoteTie>},
         {Records::tripletKeyword(), make<TonquillVectorTriplet>},
     };
-    return makers.value(record.keyword)(adding, QPointF(record.startX, record.startY),
-                                        QPointF(record.endX, record.endY));
+    const Maker maker = makers.value(keyword);
+    return maker ? maker(adding, start, end) : nullptr;
 }

@@ -87,6 +87,8 @@ void TonquillScene::build(const Records::Record &parsed, bool adding, int offset
                        addAndPlace(ItemFactory::makeVectorItem(record, adding), record);
                    },
                    [&](const Records::TextBlock &record) {
+                       qCDebug(lcRecords) << "tmp1=" << record.x << record.y << record.width
+                                          << record.height;
                        qCDebug(lcRecords) << "txt=" << record.text;
                        const QRectF rect(record.x, record.y, record.width, record.height);
                        addAndPlace(new TonquillTextBlock(adding, record.text, rect), record);

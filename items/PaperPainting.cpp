@@ -8,6 +8,14 @@ namespace
 /** The resolution of a desktop screen: one of its pixels is a scene unit at 100 %. */
 constexpr qreal screenDotsPerInch = 96.0;
 constexpr qreal pointsPerInch = 72.0;
+
+/** True for a picture with more dots to the inch than a screen has. */
+bool isFinePicture(const QPainter &painter)
+{
+    const int kind = painter.device()->devType();
+    return kind != QInternal::Widget && kind != QInternal::Pixmap &&
+           painter.device()->logicalDpiX() > screenDotsPerInch;
+}
 } // namespace
 
 bool PaperPainting::isPrinter(const QPainter &painter)
@@ -27,9 +35,8 @@ QStyleOptionGraphicsItem PaperPainting::optionFor(const QPainter &painter,
 
 QPen PaperPainting::linePen(const QPainter &painter, const QColor &color)
 {
-    const qreal width =
-        isPrinter(painter) ? painter.device()->logicalDpiX() / screenDotsPerInch : 0.0;
-    QPen pen(color, width);
+    const bool isFine = isPrinter(painter) || isFinePicture(painter);
+    QPen pen(color, isFine ? painter.device()->logicalDpiX() / screenDotsPerInch : 0.0);
     pen.setCosmetic(true);
     return pen;
 }

@@ -16,8 +16,9 @@ bool isPrinter(const QPainter &painter);
 QStyleOptionGraphicsItem optionFor(const QPainter &painter, const QStyleOptionGraphicsItem &option);
 
 /**
- * The cosmetic pen of all lines: one device pixel on screen at any zoom. Paper has finer pixels,
- * on which such a line could not be seen; there a line is 1/96 inch wide at every resolution.
+ * The cosmetic pen of all lines: one device pixel on screen at any zoom. Paper and pictures of
+ * paper have finer pixels, on which such a line could not be seen; there a line is 1/96 inch wide
+ * at every resolution.
  */
 QPen linePen(const QPainter &painter, const QColor &color = Qt::black);
 

@@ -30,6 +30,7 @@ public:
 
     /** Shows the inverted pixmap or the normal one. Callers check that there is an inverted one. */
     void setInverted(bool inverted);
+    bool isInverted() const { return m_inverted; }
 
     int itemStatus() const { return static_cast<int>(m_itemStatus); }
     int type() const override { return Type; }

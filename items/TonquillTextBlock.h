@@ -41,6 +41,12 @@ public:
      * over the top-left one, the bottom-right corner makes width and height negative.
      */
     QRectF boundingRect() const override;
+    QPointF topLeft() const { return m_topLeft; }
+    QPointF bottomRight() const { return m_bottomRight; }
+
+    /** Gives the block this rectangle and its anchors those corners; the text stays as it is. */
+    void setCorners(QPointF topLeft, QPointF bottomRight);
+
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
 public Q_SLOTS:
@@ -67,7 +73,6 @@ protected:
 private:
     bool isInEditor() const;
     void openSizeMenu();
-    void setCorners(QPointF topLeft, QPointF bottomRight);
     void startDrag(const QGraphicsSceneMouseEvent &event);
     void resizeTo(QPointF corner);
     void finishDrag();

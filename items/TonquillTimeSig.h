@@ -17,6 +17,11 @@ public:
 
     TonquillTimeSig(int numerator, int denominator, bool adding, QGraphicsItem *parent = nullptr);
 
+    /** The upper number. */
+    int numerator() const { return m_numerator; }
+    /** The lower number. */
+    int denominator() const { return m_denominator; }
+
     int itemStatus() const { return static_cast<int>(m_itemStatus); }
     int type() const override { return Type; }
 

@@ -19,6 +19,8 @@ public:
     /** The frame of `parent`, with no anchors yet. */
     explicit SelectionFrame(QGraphicsItem *parent);
 
+    const QList<QPointF> &anchors() const { return m_anchors; }
+
     /** Replaces all anchors. */
     void setAnchors(const QList<QPointF> &anchors);
 

@@ -21,6 +21,9 @@ class TonquillVectorItem : public QGraphicsObject
 public:
     int itemStatus() const { return static_cast<int>(m_itemStatus); }
 
+    QPointF startPoint() const { return m_start; }
+    QPointF endPoint() const { return m_end; }
+
     /** The rectangle that the two points span, never negative and without a margin. */
     QRectF boundingRect() const override;
     int type() const override { return m_kind.type; }
@@ -48,9 +51,6 @@ protected:
     /** With `adding` the two points are ignored: a new item has the kind's own. */
     TonquillVectorItem(const Kind &kind, bool adding, QPointF start, QPointF end,
                        QGraphicsItem *parent);
-
-    QPointF startPoint() const { return m_start; }
-    QPointF endPoint() const { return m_end; }
 
     /** Called after a point moved, between the notice of new bounds and the repaint. */
     virtual void pointsChanged() {}

@@ -10,17 +10,27 @@
 namespace
 {
 // Milliseconds. A message that breaks off within a record is given longer, for its writer may
-// only have been held up; and one that never ends is judged by what came.
+// only have been held up; and one that never ends is judged by what came. The longer a message,
+// the likelier is a pause within it, and the less is a longer wait noticed.
 constexpr int quietAfterRecord = 60;
 constexpr int quietWithinRecord = 400;
+constexpr qsizetype bytesForOneMore = 64 * 1024;
 constexpr qint64 longestMessage = 30000;
+
+int quietTimeOf(const IncomingMessage &message)
+{
+    if (!message.endsWithRecord())
+        return quietWithinRecord;
+    return static_cast<int>(
+        qMin<qsizetype>(quietAfterRecord + message.size() / bytesForOneMore, quietWithinRecord));
+}
 } // namespace
 
 HostLink::HostLink(TonquillMainWin &window)
     : m_window(window)
 {
     m_quiet.setSingleShot(true);
-    connect(&m_quiet, SIGNAL(timeout()), this, SLOT(judge()));
+    connect(&m_quiet, SIGNAL(timeout()), this, SLOT(judgeIfQuiet()));
     connect(&window.socket, SIGNAL(bytesWritten(qint64)), this, SLOT(sendNext()));
     connect(&window.socket, SIGNAL(disconnected()), this, SLOT(onDisconnected()));
 }
@@ -36,7 +46,19 @@ void HostLink::readAvailable()
     if (m_incoming.isOneSmallPiece() || m_sinceFirstPiece.hasExpired(longestMessage))
         judge();
     else
-        m_quiet.start(m_incoming.endsWithRecord() ? quietAfterRecord : quietWithinRecord);
+        m_quiet.start(quietTimeOf(m_incoming));
+}
+
+/**
+ * The window may have been busy for longer than the pause lasts, and what the host has written
+ * meanwhile still waits to be read.
+ */
+void HostLink::judgeIfQuiet()
+{
+    m_window.socket.waitForReadyRead(0);
+    readAvailable();
+    if (!m_quiet.isActive())
+        judge();
 }
 
 void HostLink::judge()
@@ -61,10 +83,17 @@ void HostLink::act(const QString &payload)
     }
 }
 
-/** The box does not run a loop of its own: the socket must be heard while it is open. */
+/**
+ * The box does not run a loop of its own: the socket must be heard while it is open. Told the same
+ * again while it is, the user has not to close it twice.
+ */
 void HostLink::showBox(const QString &title, const QString &text)
 {
+    const auto *open = m_window.findChild<QMessageBox *>(title, Qt::FindDirectChildrenOnly);
+    if (open && open->isVisible())
+        return;
     auto *box = new QMessageBox(QMessageBox::Warning, title, text, QMessageBox::Ok, &m_window);
+    box->setObjectName(title);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();
 }

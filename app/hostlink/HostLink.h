@@ -36,11 +36,12 @@ public:
     void receiveDocument(const QString &payload);
 
 private Q_SLOTS:
-    void judge();
+    void judgeIfQuiet();
     void sendNext();
     void onDisconnected();
 
 private:
+    void judge();
     void act(const QString &payload);
     void showBox(const QString &title, const QString &text);
 

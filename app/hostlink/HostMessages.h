@@ -5,6 +5,9 @@
 /** The texts of the host link. Messages have no end mark: one write is one message. */
 namespace HostMessages
 {
+/** The local server's name at which a host listens. */
+inline const QString serverName = QStringLiteral("trackwrightqt");
+
 inline const QString fromHost = QStringLiteral("tw2tonquill ");
 inline const QString toHost = QStringLiteral("tonquill2tw ");
 

@@ -25,7 +25,7 @@ bool IncomingMessage::isFromHost() const
 
 bool IncomingMessage::endsWithRecord() const
 {
-    if (m_bytes.endsWith('\n'))
+    if (m_bytes.endsWith('\n') || m_bytes.endsWith('|'))
         return true;
     // Asked with every piece, so only the end is looked at: hardly a record is longer.
     const QByteArray tail = m_bytes.last(qMin(m_bytes.size(), smallPiece));

@@ -24,6 +24,9 @@ public:
 
     bool isEmpty() const { return m_received == 0; }
 
+    /** Bytes that came so far, those that were not kept included. */
+    qsizetype size() const { return m_received; }
+
     /** True if all that came is one small piece. */
     bool isOneSmallPiece() const { return m_pieces == 1 && m_received < smallPiece; }
 

@@ -3,6 +3,11 @@
 #include "Logging.h"
 #include "TonquillMainWin.h"
 
+void TonquillMainWin::connectToHost()
+{
+    socket.connectToServer(HostMessages::serverName, QIODevice::ReadWrite);
+}
+
 void TonquillMainWin::onTWConnect()
 {
     qCDebug(lcTonquill) << "connected to TW";

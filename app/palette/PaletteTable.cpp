@@ -3,9 +3,11 @@
 #include <QCoreApplication>
 #include <QObject>
 
+namespace PaletteTable
+{
 namespace
 {
-/** Marks a name for translation. */
+/** Marks a name for translation; scripts/translate knows it, and takes its context from here. */
 #define NAME(text) QT_TRANSLATE_NOOP("PaletteTable", text)
 
 QList<PaletteEntry> toolBar1Entries()
@@ -113,6 +115,7 @@ QList<PaletteEntry> timeSignatures()
 
 #undef NAME
 } // namespace
+} // namespace PaletteTable
 
 QString PaletteEntry::translatedName() const
 {

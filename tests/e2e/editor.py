@@ -7,17 +7,18 @@ from host import Host
 
 
 class Editor:
-    """Tonquill, started on a desktop beside the stand-in for the host, and where things are in it.
+    """Tonquill, started on a desktop beside its host, and where things are in it.
 
-    Points of the page are in scene units, as in the records.
+    The host is the stand-in, or what start_host() starts and returns. Points of the page are in
+    scene units, as in the records.
     """
 
-    def __init__(self, desktop, programs, *arguments):
+    def __init__(self, desktop, programs, *arguments, start_host=None):
         programs = pathlib.Path(programs)
         self.desktop = desktop
         # Before there is a host, so that it hears of the program only.
         self._layout = json.loads(desktop.run([programs / "tonquill-layoutdump"]).stdout)
-        self.host = Host(desktop, programs / "tonquill-hoststandin")
+        self.host = (start_host or (lambda: Host(desktop, programs / "tonquill-hoststandin")))()
         self.process = desktop.start([programs / "tonquill", *arguments], log="tonquill.log")
         self.window = desktop.window(self.process, "^Tonquill$")
         wanted = self._layout["window"]

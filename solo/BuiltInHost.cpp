@@ -1,0 +1,113 @@
+#include "BuiltInHost.h"
+
+#include "HostMessages.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLocalSocket>
+
+#include <sys/socket.h>
+#include <sys/stat.h>
+
+namespace
+{
+constexpr int probeTime = 500; // milliseconds
+
+/** True if nothing but a socket would be replaced at `path`; links are replaced, not followed. */
+bool isFreeForSocket(const QString &path)
+{
+    struct stat info
+    {};
+    if (lstat(QFile::encodeName(path).constData(), &info) != 0)
+        return true;
+    return S_ISSOCK(info.st_mode) || S_ISLNK(info.st_mode);
+}
+
+/** True if the other end of the connection is this process. */
+bool isFromThisProcess(const QLocalSocket &socket)
+{
+#ifdef SO_PEERCRED
+    ucred peer{};
+    socklen_t size = sizeof peer;
+    const int descriptor = int(socket.socketDescriptor());
+    return getsockopt(descriptor, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 &&
+           peer.pid == QCoreApplication::applicationPid();
+#else
+    return socket.isValid();
+#endif
+}
+} // namespace
+
+BuiltInHost::BuiltInHost(QObject *parent)
+    : QObject(parent)
+{
+    connect(&m_server, &QLocalServer::newConnection, this, &BuiltInHost::onNewConnection);
+}
+
+bool BuiltInHost::isHostListening()
+{
+    QLocalSocket probe;
+    probe.connectToServer(HostMessages::serverName);
+    if (probe.waitForConnected(probeTime))
+        return true;
+    // Busy, or somebody else's: its name is not to be taken.
+    return probe.error() != QLocalSocket::ServerNotFoundError &&
+           probe.error() != QLocalSocket::ConnectionRefusedError;
+}
+
+QString BuiltInHost::listen()
+{
+    const QString path = QDir(QDir::tempPath()).filePath(HostMessages::serverName);
+    if (!isFreeForSocket(path))
+        return tr("%1 is in the way.").arg(path);
+    QLocalServer::removeServer(HostMessages::serverName);
+    m_server.setSocketOptions(QLocalServer::UserAccessOption);
+    return m_server.listen(HostMessages::serverName) ? QString() : m_server.errorString();
+}
+
+bool BuiltInHost::sendState(const QString &state)
+{
+    if (!m_editor)
+        return false;
+    m_editor->write((HostMessages::fromHost + state).toLatin1());
+    return true;
+}
+
+void BuiltInHost::onNewConnection()
+{
+    while (QLocalSocket *socket = m_server.nextPendingConnection()) {
+        connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+        if (m_editor || !isFromThisProcess(*socket)) {
+            socket->abort();
+            socket->deleteLater();
+            continue;
+        }
+        m_editor = socket;
+        m_inbox = HostInbox();
+        connect(socket, &QLocalSocket::readyRead, this, &BuiltInHost::onReadyRead);
+    }
+}
+
+void BuiltInHost::onReadyRead()
+{
+    for (const HostInbox::Message message : m_inbox.append(m_editor->readAll()))
+        act(message);
+}
+
+void BuiltInHost::act(HostInbox::Message message)
+{
+    switch (message) {
+    case HostInbox::Message::Document:
+        Q_EMIT edited();
+        break;
+    case HostInbox::Message::Raise:
+        Q_EMIT raiseRequested();
+        break;
+    case HostInbox::Message::Undo:
+        Q_EMIT undoRequested();
+        break;
+    case HostInbox::Message::Redo:
+        Q_EMIT redoRequested();
+        break;
+    }
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "DocumentSnapshot.h"
+
+#include <QCoreApplication>
+#include <QString>
+
+/**
+ * The document's file: UTF-8 text, one record a line. docs/file-format.md describes it.
+ *
+ * Reading takes a plain document of the host link as well. What cannot be read is reported with
+ * its line; the rest is there to be offered.
+ */
+namespace DocumentFile
+{
+/** The version that is written; newer ones are read as far as they are understood. */
+inline constexpr int version = 1;
+
+/** What is wrong with a line, counted from 1. */
+struct Problem
+{
+    int line = 0;
+    QString text;
+};
+
+/** What came of reading. */
+struct Reading
+{
+    DocumentSnapshot document; ///< all that could be read
+    QList<Problem> problems;   ///< empty if that is everything
+    bool isDocument = false;   ///< false: this is no document, there is nothing to offer
+
+    /** The problems as one text, a line each; many are summed up. */
+    QString problemText() const;
+};
+
+/** The bytes of a document's file. */
+QByteArray format(const DocumentSnapshot &document);
+
+/** Reads the bytes of a file. Without paper of its own the document lies on `defaultPaper`. */
+Reading parse(const QByteArray &bytes, const Paper &defaultPaper);
+
+/** Reads a file; one that cannot be opened is a Reading that is no document and says why. */
+Reading load(const QString &path, const Paper &defaultPaper);
+
+/** Writes a file at once or not at all. The answer is empty, or says what went wrong. */
+QString save(const QString &path, const DocumentSnapshot &document);
+} // namespace DocumentFile

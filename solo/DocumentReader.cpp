@@ -1,0 +1,166 @@
+#include "DocumentReader.h"
+
+#include "HostDocument.h"
+#include "ItemRecords.h"
+
+#include <QStringDecoder>
+
+#include <algorithm>
+
+namespace
+{
+const QString ownHeader = QStringLiteral("tonquill-document ");
+const QString endLine = QStringLiteral("tonquill-end");
+const QString pageCountKeyword = QStringLiteral("tonquill_pagecount ");
+const QString paperKeyword = QStringLiteral("tonquill_paper ");
+const QString hostKeywordBegin = QStringLiteral("tonquill_");
+
+/** More pages than this are an accident; each takes a part of the scene's height. */
+constexpr int mostPages = 10000;
+
+/** No sheet is longer, in scene units: about 25 metres. */
+constexpr double longestSheet = 90000;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("DocumentReader", text);
+}
+
+int lineNumber(qsizetype index)
+{
+    return int(index) + 1;
+}
+} // namespace
+
+DocumentFile::Reading DocumentReader::read(const QByteArray &bytes)
+{
+    splitLines(bytes);
+    if (m_lines.value(0).startsWith(hostKeywordBegin)) {
+        m_reading.isDocument = true;
+        readHostLines();
+    } else if (readFirstLine()) {
+        m_reading.isDocument = true;
+        readOwnLines();
+    }
+    return m_reading;
+}
+
+void DocumentReader::splitLines(const QByteArray &bytes)
+{
+    QStringDecoder decode(QStringDecoder::Utf8);
+    QString text = decode(bytes);
+    if (decode.hasError()) {
+        const qsizetype bad = text.indexOf(QChar::ReplacementCharacter);
+        addProblem(lineNumber(QStringView(text).first(qMax(bad, qsizetype(0))).count(u'\n')),
+                   tr("Some characters are not UTF-8."));
+    }
+    m_lines = text.split(u'\n');
+    for (QString &line : m_lines) {
+        if (line.endsWith(u'\r'))
+            line.chop(1);
+    }
+    if (m_lines.constLast().isEmpty())
+        m_lines.removeLast();
+}
+
+bool DocumentReader::readFirstLine()
+{
+    const QString first = m_lines.value(0);
+    bool isNumber = false;
+    const int fileVersion =
+        QStringView(first).sliced(qMin(ownHeader.size(), first.size())).toInt(&isNumber);
+    if (!first.startsWith(ownHeader) || !isNumber) {
+        m_reading.problems = {{1, tr("This is not a Tonquill document.")}};
+        return false;
+    }
+    if (fileVersion > DocumentFile::version) {
+        addProblem(1, tr("The document was written by a newer version of Tonquill (format %1; "
+                         "this program knows %2).")
+                          .arg(fileVersion)
+                          .arg(DocumentFile::version));
+    }
+    m_at = 1;
+    return true;
+}
+
+void DocumentReader::readOwnLines()
+{
+    bool ended = false;
+    for (; m_at < m_lines.size() && !ended; ++m_at) {
+        const QString &line = m_lines[m_at];
+        ended = line == endLine;
+        if (!ended && !line.isEmpty() && !readPageCount(line) && !readPaper(line))
+            addItem(ItemRecords::parse(line), lineNumber(m_at));
+    }
+    if (!ended)
+        addProblem(lineNumber(m_at), tr("The document breaks off here."));
+    else if (m_at < m_lines.size())
+        addProblem(lineNumber(m_at), tr("There is more behind the document's end."));
+}
+
+void DocumentReader::readHostLines()
+{
+    for (; m_at < m_lines.size(); ++m_at) {
+        const QString &line = m_lines[m_at];
+        if (HostDocument::isBlockBegin(line))
+            readHostBlock();
+        else if (!line.isEmpty() && !readPageCount(line))
+            addItem(HostDocument::readRecord(line), lineNumber(m_at));
+    }
+    // The host link writes the topmost item first.
+    std::reverse(m_reading.document.items.begin(), m_reading.document.items.end());
+}
+
+void DocumentReader::readHostBlock()
+{
+    const qsizetype begin = m_at;
+    QStringList text;
+    while (++m_at < m_lines.size() && !HostDocument::isBlockEnd(m_lines[m_at]))
+        text.append(m_lines[m_at]);
+    if (m_at == m_lines.size())
+        addProblem(lineNumber(begin), tr("The end of this text block is missing."));
+    addItem(HostDocument::readBlock(m_lines[begin], text), lineNumber(begin));
+}
+
+bool DocumentReader::readPageCount(const QString &line)
+{
+    if (!line.startsWith(pageCountKeyword))
+        return false;
+    bool isNumber = false;
+    const int count = QStringView(line).sliced(pageCountKeyword.size()).toInt(&isNumber);
+    if (isNumber && count >= 1 && count <= mostPages)
+        m_reading.document.pageCount = count;
+    else
+        addProblem(lineNumber(m_at), tr("The number of pages cannot be right."));
+    return true;
+}
+
+bool DocumentReader::readPaper(const QString &line)
+{
+    if (!line.startsWith(paperKeyword))
+        return false;
+    QList<double> values;
+    for (const QString &field : line.sliced(paperKeyword.size()).split(u' '))
+        values.append(ItemRecords::toNumber(field).value_or(-1));
+    const auto fits = [](double value) { return value >= 0 && value <= longestSheet; };
+    if (values.size() == 6 && std::all_of(values.cbegin(), values.cend(), fits) && values[0] > 0 &&
+        values[1] > 0)
+        m_reading.document.paper =
+            Paper{QSizeF(values[0], values[1]), QRectF(values[2], values[3], values[4], values[5])};
+    else
+        addProblem(lineNumber(m_at), tr("The size of the paper cannot be right."));
+    return true;
+}
+
+void DocumentReader::addItem(const std::optional<ItemState::Any> &state, int line)
+{
+    if (state)
+        m_reading.document.items.append(ItemRecords::format(*state));
+    else
+        addProblem(line, tr("This record cannot be read."));
+}
+
+void DocumentReader::addProblem(int line, const QString &text)
+{
+    m_reading.problems.append({line, text});
+}

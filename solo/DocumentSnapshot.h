@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QRectF>
+#include <QSizeF>
+
+class TonquillMainWin;
+
+/** The paper that a document is laid out on, in scene units. */
+struct Paper
+{
+    QSizeF size;
+    QRectF frame; ///< the printable area
+    bool operator==(const Paper &) const = default;
+};
+
+/**
+ * A document as it is at one moment: paper, number of pages, and a line of ItemRecords for each
+ * item, from the lowest to the topmost. Copies share their lines.
+ */
+struct DocumentSnapshot
+{
+    Paper paper;
+    int pageCount = 1;
+    QList<QByteArray> items;
+
+    bool operator==(const DocumentSnapshot &) const = default;
+
+    /** Reads the window's document. Items that wait to be placed are no part of it yet. */
+    static DocumentSnapshot capture(const TonquillMainWin &window);
+
+    /**
+     * Replaces the window's document by this one. What the view shows stays where it is, and the
+     * items with an index in `selected` are selected.
+     */
+    void restore(TonquillMainWin &window, const QList<qsizetype> &selected = {}) const;
+
+    /** The window's paper. */
+    static Paper paperOf(const TonquillMainWin &window);
+
+    /** The indices that the window's selected items have in a snapshot taken now. */
+    static QList<qsizetype> selectionOf(const TonquillMainWin &window);
+
+    /** True while the pointer moves or resizes an item of the window. */
+    static bool isItemHeld(const TonquillMainWin &window);
+};

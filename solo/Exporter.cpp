@@ -1,0 +1,99 @@
+#include "Exporter.h"
+
+#include "PagePicture.h"
+#include "TonquillMainWin.h"
+
+#include <QBuffer>
+#include <QFileInfo>
+#include <QImage>
+#include <QPainter>
+#include <QPrinter>
+#include <QSaveFile>
+#include <QSvgGenerator>
+#include <QTemporaryDir>
+
+namespace
+{
+/** Pictures in an SVG file are as fine as this many dots per inch make them. */
+constexpr int svgDotsPerInch = 600;
+
+constexpr int fewestDots = 10;
+constexpr int mostDots = 2400;
+} // namespace
+
+QString Exporter::write(const QString &path, const ExportOptions &options)
+{
+    const QString kind = QFileInfo(path).suffix().toLower();
+    if (kind != QLatin1String("pdf") && kind != QLatin1String("png") &&
+        kind != QLatin1String("svg"))
+        return tr("%1: the name must end in .pdf, .png or .svg").arg(path);
+    if (options.page < 1 || options.page > m_window.pageCount)
+        return tr("there is no page %1, only 1 to %2").arg(options.page).arg(m_window.pageCount);
+    if (options.dotsPerInch < fewestDots || options.dotsPerInch > mostDots)
+        return tr("the resolution must be between %1 and %2").arg(fewestDots).arg(mostDots);
+    const QByteArray bytes = kind == QLatin1String("pdf")   ? pdf()
+                             : kind == QLatin1String("png") ? png(options)
+                                                            : svg(options);
+    return bytes.isEmpty() ? tr("%1: cannot be made").arg(path) : writeBytes(path, bytes);
+}
+
+/** A printer writes a file of its own, so that is made aside and put in place when it is whole. */
+QByteArray Exporter::pdf()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("export.pdf"));
+    {
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setPageLayout(m_window.sharedPrinter().pageLayout());
+        printer.setOutputFileName(path);
+        m_window.print(&printer);
+    }
+    QFile file(path);
+    const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return bytes.trimmed().endsWith("%%EOF") ? bytes : QByteArray();
+}
+
+QByteArray Exporter::png(const ExportOptions &options)
+{
+    constexpr double inchesPerMetre = 1 / 0.0254;
+    const PagePicture page(m_window, options.page, options.dotsPerInch);
+    QImage image(page.size(), QImage::Format_RGB32);
+    if (image.isNull())
+        return QByteArray();
+    image.setDotsPerMeterX(qRound(options.dotsPerInch * inchesPerMetre));
+    image.setDotsPerMeterY(qRound(options.dotsPerInch * inchesPerMetre));
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                           QPainter::SmoothPixmapTransform);
+    page.paint(painter);
+    painter.end();
+    QBuffer buffer;
+    return image.save(&buffer, "PNG") ? buffer.data() : QByteArray();
+}
+
+QByteArray Exporter::svg(const ExportOptions &options)
+{
+    const PagePicture page(m_window, options.page, svgDotsPerInch);
+    QBuffer buffer;
+    QSvgGenerator generator;
+    generator.setOutputDevice(&buffer);
+    generator.setResolution(svgDotsPerInch);
+    generator.setSize(page.size());
+    generator.setViewBox(QRect(QPoint(0, 0), page.size()));
+    QPainter painter(&generator);
+    page.paint(painter);
+    painter.end();
+    return buffer.data();
+}
+
+QString Exporter::writeBytes(const QString &path, const QByteArray &bytes)
+{
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile())
+        return tr("%1: not an ordinary file").arg(path);
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        return QStringLiteral("%1: %2").arg(path, file.errorString());
+    return QString();
+}

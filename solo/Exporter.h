@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QString>
+
+class TonquillMainWin;
+
+/** What of the document goes into a picture; a PDF file always has all pages. */
+struct ExportOptions
+{
+    int page = 1; ///< counted from 1
+    int dotsPerInch = 150;
+};
+
+/** Writes the window's document as PDF, PNG or SVG, told by the file's suffix. */
+class Exporter
+{
+    Q_DECLARE_TR_FUNCTIONS(Exporter)
+
+public:
+    explicit Exporter(TonquillMainWin &window)
+        : m_window(window)
+    {}
+
+    /** Writes the file, at once or not at all. The answer is empty, or says what went wrong. */
+    QString write(const QString &path, const ExportOptions &options);
+
+private:
+    QByteArray pdf();
+    QByteArray png(const ExportOptions &options);
+    QByteArray svg(const ExportOptions &options);
+    static QString writeBytes(const QString &path, const QByteArray &bytes);
+
+    TonquillMainWin &m_window;
+};

@@ -1,0 +1,284 @@
+#include "ItemRecords.h"
+
+#include "QuotedFields.h"
+#include "Records.h"
+
+#include <QHash>
+#include <QLocale>
+
+#include <cmath>
+#include <limits>
+
+namespace
+{
+using namespace ItemState;
+using Maybe = std::optional<Any>;
+
+/** The block's record takes one line here, so it has a keyword without a begin and an end. */
+QString blockKeyword()
+{
+    return QStringLiteral("tonquill_textblock");
+}
+
+QString point(QPointF p)
+{
+    return ItemRecords::number(p.x()) + u' ' + ItemRecords::number(p.y());
+}
+
+/** Puts a line together from a keyword and fields. */
+class Line
+{
+public:
+    Line(const QString &keyword, QPointF position)
+        : m_text(keyword + u' ' + point(position))
+    {}
+
+    Line &operator<<(const QString &field)
+    {
+        m_text += u' ' + field;
+        return *this;
+    }
+    Line &named(const QString &name, const QString &value) { return *this << name + u'=' + value; }
+    Line &quoted(const QString &name, const QString &value)
+    {
+        return named(name, QuotedFields::quoted(value));
+    }
+    Line &flag(const QString &name, bool on)
+    {
+        return on ? named(name, QStringLiteral("1")) : *this;
+    }
+    QByteArray ended() const { return m_text.toUtf8(); }
+
+private:
+    QString m_text;
+};
+
+void appendFont(Line &line, const Font &font)
+{
+    line.quoted(QStringLiteral("font"), font.family);
+    line.named(font.sizeInPixels ? QStringLiteral("pixels") : QStringLiteral("size"),
+               ItemRecords::number(font.size));
+    if (font.weight != QFont::Normal)
+        line.named(QStringLiteral("weight"), QString::number(font.weight));
+    line.flag(QStringLiteral("italic"), font.style == QFont::StyleItalic);
+    line.flag(QStringLiteral("oblique"), font.style == QFont::StyleOblique);
+    line.flag(QStringLiteral("underline"), font.underline);
+}
+
+QString colorName(const QColor &color)
+{
+    return color.name(color.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb);
+}
+
+QByteArray formatOne(const Glyph &glyph)
+{
+    return (Line(Records::bitmapKeyword(), glyph.position) << QString::number(glyph.symbolId))
+        .flag(QStringLiteral("inverted"), glyph.inverted)
+        .ended();
+}
+
+QByteArray formatOne(const TimeSignature &time)
+{
+    return (Line(Records::timesigKeyword(), time.position)
+            << QString::number(time.numerator) << QString::number(time.denominator))
+        .ended();
+}
+
+QByteArray formatOne(const Figure &figure)
+{
+    Line line(figure.keyword, figure.position);
+    line << point(figure.start) << point(figure.end);
+    if (figure.anchors)
+        line.quoted(QStringLiteral("anchors"),
+                    point(figure.anchors->first) + u' ' + point(figure.anchors->second));
+    return line.ended();
+}
+
+QByteArray formatOne(const Text &text)
+{
+    Line line(Records::textKeyword(), text.position);
+    line.quoted(QStringLiteral("text"), text.text);
+    appendFont(line, text.font);
+    line.named(QStringLiteral("color"), colorName(text.color));
+    if (text.rotation != 0)
+        line.named(QStringLiteral("rotation"), ItemRecords::number(text.rotation));
+    return line.ended();
+}
+
+QByteArray formatOne(const TextBlock &block)
+{
+    Line line(blockKeyword(), block.position);
+    line << point(block.topLeft) << point(block.bottomRight);
+    line.named(QStringLiteral("wrap"), ItemRecords::number(block.textWidth));
+    appendFont(line, block.font);
+    return line.quoted(block.isHtml ? QStringLiteral("html") : QStringLiteral("text"), block.text)
+        .ended();
+}
+
+/** The fields of a line, read as numbers; what is missing or malformed makes it invalid. */
+class Reader
+{
+public:
+    explicit Reader(const QuotedFields &fields)
+        : m_fields(fields)
+    {}
+
+    bool isValid() const { return m_valid; }
+    QString keyword() const { return m_fields.plain().value(0); }
+    QString text(const QString &name)
+    {
+        m_valid = m_valid && m_fields.has(name);
+        return m_fields.value(name);
+    }
+    bool flag(const QString &name) const { return m_fields.value(name) == QLatin1String("1"); }
+    bool has(const QString &name) const { return m_fields.has(name); }
+
+    double number(qsizetype index) { return toNumber(m_fields.plain().value(index)); }
+    double number(const QString &name) { return toNumber(m_fields.value(name)); }
+    double number(const QString &name, double fallback)
+    {
+        return m_fields.has(name) ? number(name) : fallback;
+    }
+    int integer(const QString &text)
+    {
+        bool ok = false;
+        const int result = text.toInt(&ok);
+        m_valid = m_valid && ok;
+        return result;
+    }
+    int integer(qsizetype index) { return integer(m_fields.plain().value(index)); }
+    QPointF point(qsizetype index) { return QPointF(number(index), number(index + 1)); }
+    Font font();
+    QColor color();
+    std::optional<Figure::Anchors> anchors();
+
+private:
+    double toNumber(const QString &text)
+    {
+        const std::optional<double> value = ItemRecords::toNumber(text);
+        m_valid = m_valid && value;
+        return value.value_or(0);
+    }
+
+    const QuotedFields &m_fields;
+    bool m_valid = true;
+};
+
+Font Reader::font()
+{
+    constexpr int lightest = 1;
+    constexpr int heaviest = 1000;
+    Font font;
+    font.family = text(QStringLiteral("font"));
+    font.sizeInPixels = has(QStringLiteral("pixels"));
+    font.size = number(font.sizeInPixels ? QStringLiteral("pixels") : QStringLiteral("size"));
+    if (has(QStringLiteral("weight")))
+        font.weight = integer(m_fields.value(QStringLiteral("weight")));
+    if (flag(QStringLiteral("italic")))
+        font.style = QFont::StyleItalic;
+    else if (flag(QStringLiteral("oblique")))
+        font.style = QFont::StyleOblique;
+    font.underline = flag(QStringLiteral("underline"));
+    m_valid = m_valid && font.size > 0 && font.size <= std::numeric_limits<short>::max() &&
+              font.weight >= lightest && font.weight <= heaviest;
+    return font;
+}
+
+QColor Reader::color()
+{
+    const QColor color(text(QStringLiteral("color")));
+    m_valid = m_valid && color.isValid();
+    return color;
+}
+
+std::optional<Figure::Anchors> Reader::anchors()
+{
+    if (!has(QStringLiteral("anchors")))
+        return std::nullopt;
+    const QStringList parts = m_fields.value(QStringLiteral("anchors")).split(u' ');
+    m_valid = m_valid && parts.size() == 4;
+    const auto at = [&](qsizetype i) { return toNumber(parts.value(i)); };
+    return Figure::Anchors(QPointF(at(0), at(1)), QPointF(at(2), at(3)));
+}
+
+Any readGlyph(Reader &reader)
+{
+    return Glyph{reader.point(1), reader.integer(3), reader.flag(QStringLiteral("inverted"))};
+}
+
+Any readTimeSignature(Reader &reader)
+{
+    return TimeSignature{reader.point(1), reader.integer(3), reader.integer(4)};
+}
+
+Any readFigure(Reader &reader)
+{
+    return Figure{reader.point(1), reader.keyword(), reader.point(3), reader.point(5),
+                  reader.anchors()};
+}
+
+Any readText(Reader &reader)
+{
+    return Text{reader.point(1), reader.text(QStringLiteral("text")), reader.font(), reader.color(),
+                reader.number(QStringLiteral("rotation"), 0)};
+}
+
+Any readTextBlock(Reader &reader)
+{
+    const bool isHtml = reader.has(QStringLiteral("html"));
+    return TextBlock{
+        reader.point(1), reader.point(3),
+        reader.point(5), reader.number(QStringLiteral("wrap")),
+        reader.font(),   reader.text(isHtml ? QStringLiteral("html") : QStringLiteral("text")),
+        isHtml};
+}
+
+using ReadItem = Any (*)(Reader &);
+
+const QHash<QString, ReadItem> &readers()
+{
+    static const QHash<QString, ReadItem> table{
+        {Records::bitmapKeyword(), readGlyph},
+        {Records::timesigKeyword(), readTimeSignature},
+        {Records::grandstaffKeyword(), readFigure},
+        {Records::interactivelineKeyword(), readFigure},
+        {Records::linetabKeyword(), readFigure},
+        {Records::notetieKeyword(), readFigure},
+        {Records::tripletKeyword(), readFigure},
+        {Records::textKeyword(), readText},
+        {blockKeyword(), readTextBlock},
+    };
+    return table;
+}
+} // namespace
+
+QString ItemRecords::number(double value)
+{
+    // No "-0", which equals 0 but is another text.
+    return QString::number(value == 0 ? 0.0 : value, 'g', QLocale::FloatingPointShortest);
+}
+
+std::optional<double> ItemRecords::toNumber(const QString &text)
+{
+    bool ok = false;
+    const double value = text.toDouble(&ok);
+    return ok && std::isfinite(value) ? std::optional(value) : std::nullopt;
+}
+
+QByteArray ItemRecords::format(const Any &state)
+{
+    return std::visit([](const auto &item) { return formatOne(item); }, state);
+}
+
+std::optional<Any> ItemRecords::parse(const QString &line)
+{
+    const std::optional<QuotedFields> fields = QuotedFields::parse(line);
+    if (!fields)
+        return std::nullopt;
+    Reader reader(*fields);
+    const ReadItem read = readers().value(reader.keyword());
+    if (!read)
+        return std::nullopt;
+    const Any state = read(reader);
+    return reader.isValid() ? std::optional(state) : std::nullopt;
+}

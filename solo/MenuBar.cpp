@@ -1,0 +1,158 @@
+#include "MenuBar.h"
+
+#include "FileCommands.h"
+#include "HelpPages.h"
+#include "InsertMenu.h"
+#include "TonquillMainWin.h"
+#include "TonquillScene.h"
+#include "TonquillTextBlock.h"
+#include "ZoomControl.h"
+
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QToolBar>
+
+MenuBar::MenuBar(TonquillMainWin &window, FileCommands &files, ZoomControl &zoom)
+    : QMenuBar(&window)
+    , m_window(window)
+    , m_files(files)
+    , m_zoom(zoom)
+{
+    buildFileMenu();
+    buildEditMenu();
+    buildViewMenu();
+    buildInsertMenu();
+    buildHelpMenu();
+    connect(window.scene, &QGraphicsScene::focusItemChanged, this, &MenuBar::onFocusItemChanged);
+}
+
+void MenuBar::buildFileMenu()
+{
+    QMenu *menu = addMenu(tr("&File"));
+    menu->addAction(tr("&New"), QKeySequence::New, &m_files, &FileCommands::makeNew);
+    menu->addAction(tr("&Open…"), QKeySequence::Open, &m_files, &FileCommands::open);
+    m_recent = menu->addMenu(tr("Open &Recent"));
+    connect(menu, &QMenu::aboutToShow, this, &MenuBar::fillRecentMenu);
+    menu->addAction(tr("&Save"), QKeySequence::Save, &m_files, &FileCommands::save);
+    menu->addAction(tr("Save &As…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), &m_files,
+                    &FileCommands::saveAs);
+    menu->addSeparator();
+    menu->addAction(tr("&Export as PDF…"), QKeySequence(Qt::CTRL | Qt::Key_E), &m_files,
+                    &FileCommands::exportPdf);
+    menu->addAction(tr("Print Pre&view…"), &m_window,
+                    &TonquillMainWin::OnToolBar1ButtonPrintPreview);
+    menu->addAction(tr("Page Set&up…"), &m_window, &TonquillMainWin::OnToolBar1ButtonPageSetup);
+    menu->addAction(tr("&Print…"), QKeySequence::Print, &m_window,
+                    &TonquillMainWin::OnToolBar1ButtonPrint);
+    menu->addSeparator();
+    menu->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &MenuBar::quitRequested);
+}
+
+void MenuBar::fillRecentMenu()
+{
+    m_recent->clear();
+    for (const QString &path : FileCommands::recentFiles()) {
+        QAction *entry =
+            m_recent->addAction(QFileInfo(path).fileName().replace(u'&', QStringLiteral("&&")),
+                                &m_files, [this, path] { m_files.openFile(path); });
+        entry->setStatusTip(path);
+    }
+    m_recent->setEnabled(!m_recent->isEmpty());
+}
+
+void MenuBar::buildEditMenu()
+{
+    QMenu *menu = addMenu(tr("&Edit"));
+    menu->addAction(tr("&Undo"), QKeySequence::Undo, this, &MenuBar::undoRequested);
+    QAction *redo = menu->addAction(tr("&Redo"), this, &MenuBar::redoRequested);
+    redo->setShortcuts(
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    menu->addSeparator();
+    const QList<QAction *> keys{
+        addKeyEntry(menu, tr("&Copy"), Qt::Key_C, Qt::ControlModifier),
+        addKeyEntry(menu, tr("&Paste"), Qt::Key_V, Qt::ControlModifier),
+        addKeyEntry(menu, tr("&Delete"), Qt::Key_Delete, Qt::NoModifier),
+    };
+    menu->addSeparator();
+    menu->addAction(tr("Select &All"), QKeySequence::SelectAll, this, &MenuBar::selectAll);
+    // Meant for a part of a text, they would now act on whole items.
+    connect(menu, &QMenu::aboutToShow, this, [this, keys] {
+        for (QAction *entry : keys)
+            entry->setDisabled(m_textWasLeft);
+    });
+}
+
+QAction *MenuBar::addKeyEntry(QMenu *menu, const QString &text, Qt::Key key,
+                              Qt::KeyboardModifiers modifiers)
+{
+    const QString shown =
+        QKeySequence(QKeyCombination(modifiers, key)).toString(QKeySequence::NativeText);
+    return menu->addAction(text + u'\t' + shown, this,
+                           [this, key, modifiers] { typeKey(key, modifiers); });
+}
+
+/** Does what the key does, in the editor's own way. */
+void MenuBar::typeKey(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QKeyEvent press(QEvent::KeyPress, key, modifiers);
+    QCoreApplication::sendEvent(m_window.scene, &press);
+    QKeyEvent release(QEvent::KeyRelease, key, modifiers);
+    QCoreApplication::sendEvent(m_window.scene, &release);
+}
+
+void MenuBar::selectAll()
+{
+    for (QGraphicsItem *item : m_window.scene->items()) {
+        if (!item->parentItem())
+            item->setSelected(true);
+    }
+}
+
+void MenuBar::onFocusItemChanged(QGraphicsItem *, QGraphicsItem *before, Qt::FocusReason reason)
+{
+    const bool byMenu = reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
+    m_textWasLeft = byMenu && qgraphicsitem_cast<TonquillTextBlock *>(before) != nullptr;
+}
+
+void MenuBar::buildViewMenu()
+{
+    QMenu *menu = addMenu(tr("&View"));
+    QAction *in = menu->addAction(tr("Zoom &In"), &m_zoom, &ZoomControl::zoomIn);
+    in->setShortcuts(
+        {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
+    menu->addAction(tr("Zoom &Out"), QKeySequence(Qt::CTRL | Qt::Key_Minus), &m_zoom,
+                    &ZoomControl::zoomOut);
+    menu->addAction(tr("&100 %"), QKeySequence(Qt::CTRL | Qt::Key_0), &m_zoom,
+                    &ZoomControl::showActualSize);
+    menu->addAction(tr("Fit &Width"), QKeySequence(Qt::CTRL | Qt::Key_9), &m_zoom,
+                    &ZoomControl::fitWidth);
+    menu->addSeparator();
+    addToolBarEntry(menu, "toolBar2", tr("&Sheet Music Toolbar"));
+    addToolBarEntry(menu, "toolBar3", tr("&Tablature Toolbar"));
+}
+
+void MenuBar::addToolBarEntry(QMenu *menu, const char *objectName, const QString &text)
+{
+    auto *toolBar = m_window.findChild<QToolBar *>(QString::fromLatin1(objectName));
+    QAction *entry = menu->addAction(text);
+    entry->setCheckable(true);
+    connect(entry, &QAction::triggered, toolBar, &QWidget::setVisible);
+    connect(menu, &QMenu::aboutToShow, entry,
+            [entry, toolBar] { entry->setChecked(!toolBar->isHidden()); });
+}
+
+void MenuBar::buildInsertMenu()
+{
+    InsertMenu::fill(*addMenu(tr("&Insert")), m_window);
+}
+
+void MenuBar::buildHelpMenu()
+{
+    QMenu *menu = addMenu(tr("&Help"));
+    menu->addAction(tr("&Keys and Mouse"), QKeySequence(Qt::Key_F1), &m_window,
+                    [this] { HelpPages::showKeysAndMouse(m_window); });
+    menu->addAction(tr("The &Musica Letters"), &m_window,
+                    [this] { HelpPages::showMusicaLetters(m_window); });
+    menu->addAction(tr("&About Tonquill"), &m_window, [this] { HelpPages::showAbout(m_window); });
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QMenuBar>
+
+class FileCommands;
+class QGraphicsItem;
+class TonquillMainWin;
+class ZoomControl;
+
+/**
+ * The menus that are laid round the editor's window. Entries for what the editor's own keys do
+ * show the key and do not take it: the editor acts on their release, and would act twice.
+ */
+class MenuBar : public QMenuBar
+{
+    Q_OBJECT
+
+public:
+    /** Works on objects that outlive the menu bar. */
+    MenuBar(TonquillMainWin &window, FileCommands &files, ZoomControl &zoom);
+
+Q_SIGNALS:
+    void undoRequested();
+    void redoRequested();
+    void quitRequested();
+
+private:
+    void buildFileMenu();
+    void buildEditMenu();
+    void buildViewMenu();
+    void buildInsertMenu();
+    void buildHelpMenu();
+    void fillRecentMenu();
+    void addToolBarEntry(QMenu *menu, const char *objectName, const QString &text);
+    QAction *addKeyEntry(QMenu *menu, const QString &text, Qt::Key key,
+                         Qt::KeyboardModifiers modifiers);
+    void typeKey(Qt::Key key, Qt::KeyboardModifiers modifiers);
+    void selectAll();
+    void onFocusItemChanged(QGraphicsItem *now, QGraphicsItem *before, Qt::FocusReason reason);
+
+    TonquillMainWin &m_window;
+    FileCommands &m_files;
+    ZoomControl &m_zoom;
+    QMenu *m_recent = nullptr;
+    bool m_textWasLeft = false; ///< opening a menu has just ended the editing of a text
+};

@@ -1,0 +1,102 @@
+#include "SoloWindow.h"
+
+#include "HostMessages.h"
+#include "MenuBar.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QMessageBox>
+
+namespace
+{
+/** The palette's button for the host's window; here there is no other window. */
+constexpr int raiseHostId = 0;
+} // namespace
+
+SoloWindow::SoloWindow(const QString &folder)
+    : m_window(TonquillMainWin::HostConnection::Later)
+    , m_session(m_window, folder)
+    , m_files(m_window, m_session)
+    , m_zoom(m_window)
+{
+    auto *menus = new MenuBar(m_window, m_files, m_zoom);
+    m_window.setMenuBar(menus);
+    m_window.actions.value(raiseHostId)->setVisible(false);
+    m_window.setWindowFlags(m_window.windowFlags() | Qt::WindowMinMaxButtonsHint);
+    m_window.installEventFilter(this);
+    connect(menus, &MenuBar::undoRequested, this, &SoloWindow::undo);
+    connect(menus, &MenuBar::redoRequested, this, &SoloWindow::redo);
+    connect(menus, &MenuBar::quitRequested, this, &SoloWindow::quit);
+    connect(&m_host, &BuiltInHost::edited, &m_session.edits(), &EditWatcher::checkSoon);
+    connect(&m_host, &BuiltInHost::undoRequested, this, &SoloWindow::undo);
+    connect(&m_host, &BuiltInHost::redoRequested, this, &SoloWindow::redo);
+    connect(&m_host, &BuiltInHost::raiseRequested, this, &SoloWindow::show);
+    connect(&m_session, &DocumentSession::changed, this, &SoloWindow::refreshTitle);
+    refreshTitle();
+}
+
+QString SoloWindow::startHost()
+{
+    const QString error = m_host.listen();
+    if (error.isEmpty())
+        m_window.connectToHost();
+    return error;
+}
+
+void SoloWindow::show()
+{
+    m_window.showNormal();
+    m_window.raise();
+    m_window.activateWindow();
+}
+
+void SoloWindow::undo()
+{
+    if (!m_session.edits().undo())
+        sayNothingLeft(HostMessages::stateNothingToUndo, QStringLiteral("Undo"),
+                       QStringLiteral("Nothing to undo"));
+}
+
+void SoloWindow::redo()
+{
+    if (!m_session.edits().redo())
+        sayNothingLeft(HostMessages::stateNothingToRedo, QStringLiteral("Redo"),
+                       QStringLiteral("Nothing to redo"));
+}
+
+/** The editor shows the box when its host says so; without a host the box is shown here. */
+void SoloWindow::sayNothingLeft(const QString &state, const QString &title, const QString &text)
+{
+    if (!m_host.sendState(state))
+        QMessageBox::warning(&m_window, title, text);
+}
+
+void SoloWindow::refreshTitle()
+{
+    m_window.setWindowTitle(tr("%1[*] – Tonquill").arg(m_session.name()));
+    m_window.setWindowModified(m_session.isModified());
+}
+
+void SoloWindow::quit()
+{
+    // A second wish to close while the first is being asked about adds no question.
+    if (m_leaving)
+        return;
+    m_leaving = true;
+    if (m_files.mayLeave()) {
+        m_session.close();
+        m_window.hide();
+        QCoreApplication::exit(0);
+    }
+    m_leaving = false;
+}
+
+bool SoloWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != &m_window || event->type() != QEvent::Close)
+        return false;
+    event->ignore();
+    quit();
+    return true;
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "BuiltInHost.h"
+#include "DocumentSession.h"
+#include "FileCommands.h"
+#include "TonquillMainWin.h"
+#include "ZoomControl.h"
+
+#include <QObject>
+
+class MenuBar;
+
+/**
+ * The editor's window with everything round it that makes it a program of its own: a host, files,
+ * undo, recovery and menus. Closing the window ends the program.
+ */
+class SoloWindow : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Keeps its journal in `folder`. The window is not shown yet. */
+    explicit SoloWindow(const QString &folder);
+
+    TonquillMainWin &window() { return m_window; }
+    DocumentSession &session() { return m_session; }
+    FileCommands &files() { return m_files; }
+
+    /** Starts the host and connects the editor to it. The answer is empty, or an error. */
+    QString startHost();
+
+    /** Shows the window in front of the others. */
+    void show();
+
+    /** Asks about unsaved changes; then the program ends, unless the user rather goes on. */
+    void quit();
+
+    void undo();
+    void redo();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void sayNothingLeft(const QString &state, const QString &title, const QString &text);
+    void refreshTitle();
+
+    TonquillMainWin m_window;
+    DocumentSession m_session;
+    FileCommands m_files;
+    ZoomControl m_zoom;
+    BuiltInHost m_host;
+    bool m_leaving = false;
+};

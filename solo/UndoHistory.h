@@ -1,0 +1,89 @@
+#pragma once
+
+#include "DocumentSnapshot.h"
+
+#include <QList>
+
+/**
+ * The states that a document went through. A step keeps only the lines that it changed, and those
+ * are shared with the states on both sides of it. Pure values: no window, no scene.
+ */
+class UndoHistory
+{
+public:
+    /** At most this many bytes are kept in steps; the oldest steps go first. */
+    static constexpr qsizetype defaultBound = 256 * 1024 * 1024;
+
+    explicit UndoHistory(qsizetype bound = defaultBound)
+        : m_bound(bound)
+    {}
+
+    /** Begins anew with this state; no steps. */
+    void reset(const DocumentSnapshot &state);
+
+    /** The state that the document is in. */
+    const DocumentSnapshot &current() const { return m_current; }
+
+    /**
+     * Takes over the state after an edit; false if it is no other than the current one. With
+     * `sameGesture` it joins the last step, if there is one and nothing was undone since.
+     */
+    bool record(const DocumentSnapshot &state, bool sameGesture = false);
+
+    /** Takes this for the current state, without a step, if it has as many items. */
+    void adopt(const DocumentSnapshot &state);
+
+    bool canUndo() const { return !m_undo.isEmpty(); }
+    bool canRedo() const { return !m_redo.isEmpty(); }
+
+    /** Goes a step back. Callers check that there is one. */
+    void undo();
+    /** Goes a step forward again. Callers check that there is one. */
+    void redo();
+
+    /**
+     * Where the items with these indices in the state before the last undo() or redo() are in the
+     * current one. Items that the step added or took away are left out.
+     */
+    QList<qsizetype> followed(const QList<qsizetype> &indices) const;
+
+    /** The bytes that the steps hold. */
+    qsizetype cost() const { return m_cost; }
+
+private:
+    /** Lines from the index `at` on, and those that replaced them. */
+    struct Hunk
+    {
+        qsizetype at = 0;
+        QList<QByteArray> older;
+        QList<QByteArray> newer;
+    };
+    /**
+     * The way between two neighbouring states: one hunk if lines came or went, otherwise one for
+     * each run of lines that changed.
+     */
+    struct Step
+    {
+        int olderPageCount = 0;
+        int newerPageCount = 0;
+        QList<Hunk> hunks;
+        qsizetype cost() const;
+    };
+
+    static Step difference(const DocumentSnapshot &older, const DocumentSnapshot &newer);
+    static void appendChangedRuns(Step &step, const QList<QByteArray> &older,
+                                  const QList<QByteArray> &newer);
+    static Hunk replacedMiddle(const QList<QByteArray> &older, const QList<QByteArray> &newer);
+    void replace(qsizetype at, qsizetype count, const QList<QByteArray> &lines);
+    void applyBackward(const Step &step);
+    void applyForward(const Step &step);
+    void push(const Step &step);
+    void dropRedo();
+
+    qsizetype m_bound;
+    qsizetype m_cost = 0;
+    DocumentSnapshot m_current;
+    QList<Step> m_undo;
+    QList<Step> m_redo;
+    Step m_lastApplied; ///< as it was gone through, from `older` to `newer`
+};

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QObject>
+
+class TonquillMainWin;
+
+/** How large the window shows the page. Ctrl with the wheel zooms at the pointer. */
+class ZoomControl : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ZoomControl(TonquillMainWin &window);
+
+public Q_SLOTS:
+    void zoomIn();
+    void zoomOut();
+    void showActualSize();
+    /** Makes a sheet as wide as the view. */
+    void fitWidth();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    /** Shows a scene unit as `scale` pixels. The point in the middle, or under the pointer, stays.
+     */
+    void setScale(double scale, bool atPointer);
+    double scale() const;
+
+    TonquillMainWin &m_window;
+};

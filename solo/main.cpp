@@ -1,0 +1,6 @@
+#include "SoloApplication.h"
+
+int main(int argc, char *argv[])
+{
+    return SoloApplication::run(argc, argv);
+}

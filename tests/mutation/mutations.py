@@ -1,0 +1,166 @@
+"""Ways to break the program, each in one place and each something that a test has to notice."""
+
+import dataclasses
+
+
+@dataclasses.dataclass(frozen=True)
+class Mutation:
+    """One break: this text of the file, which is there once, becomes that one."""
+
+    name: str
+    file: str
+    text: str
+    broken: str
+    # The tests that should notice, as a regular expression for ctest.
+    tests: str
+
+
+MUTATIONS = [
+    Mutation(
+        "the page pitch is one unit short",
+        "document/TonquillScene.h",
+        "return paperRect.height() + pageSpacing;",
+        "return paperRect.height() + pageSpacing - 1;",
+        "tst_page",
+    ),
+    Mutation(
+        "items behind a deleted page move up by the whole pitch",
+        "document/TonquillScenePages.cpp",
+        "const double shift = pageSpacing - paperRect.height();",
+        "const double shift = -pagePitch();",
+        "tst_pages",
+    ),
+    Mutation(
+        "the lowest half of a page counts as the next page",
+        "document/TonquillScenePages.cpp",
+        "(0.25 * paperRect.height() + p.y())",
+        "(0.5 * paperRect.height() + p.y())",
+        "tst_pages",
+    ),
+    Mutation(
+        "a cleared scene has the normal height",
+        "document/TonquillScenePages.cpp",
+        "setSceneRect(0, 0, sceneRect().width(), paperRect.height() - pageSpacing);",
+        "setSceneRect(0, 0, sceneRect().width(), paperRect.height() + pageSpacing);",
+        "tst_pages",
+    ),
+    Mutation(
+        "the units across and down are swapped",
+        "document/PageGeometry.cpp",
+        "unitsPerInchAcross = 88.0;\nconstexpr double unitsPerInchDown = 90.0;",
+        "unitsPerInchAcross = 90.0;\nconstexpr double unitsPerInchDown = 88.0;",
+        "tst_pagegeometry",
+    ),
+    Mutation(
+        "coordinates are rounded",
+        "items/Truncation.h",
+        "return static_cast<int>(value);",
+        "return static_cast<int>(value < 0 ? value - 0.5 : value + 0.5);",
+        "tst_(bitmap|itemmodel|records|text)",
+    ),
+    Mutation(
+        "a simple text gets the offset once",
+        "document/TonquillSceneRecords.cpp",
+        "offset == atCursor ? atCursor : 2 * offset",
+        "offset",
+        "tst_(records|construct|scenerecords|keyboard|clipboard)",
+    ),
+    Mutation(
+        "a copy is pasted elsewhere",
+        "document/TonquillSceneKeyboard.cpp",
+        "constexpr int pasteOffset = 30;",
+        "constexpr int pasteOffset = 20;",
+        "tst_(keyboard|clipboard|keys)",
+    ),
+    Mutation(
+        "the up and down keys are swapped",
+        "document/TonquillSceneKeyboard.cpp",
+        "return QPointF(0, -nudge);\n    case Qt::Key_Down:\n        return QPointF(0, nudge);",
+        "return QPointF(0, nudge);\n    case Qt::Key_Down:\n        return QPointF(0, -nudge);",
+        "tst_(keyboard|keys|nudge)",
+    ),
+    Mutation(
+        "of two anchors at one place the higher one is taken",
+        "vector/SelectionFrame.cpp",
+        "for (qsizetype i = 0; i < m_anchors.size(); ++i)",
+        "for (qsizetype i = m_anchors.size() - 1; i >= 0; --i)",
+        "tst_selectionframe",
+    ),
+    Mutation(
+        "a glyph turns back when its right button is let go after it was placed",
+        "items/TonquillBitmap.cpp",
+        "event->button() == Qt::RightButton && !(event->buttons() & Qt::LeftButton);",
+        "event->button() == Qt::RightButton;",
+        "tst_(bitmap|pointerstates)",
+    ),
+    Mutation(
+        "a figure is placed with its first click",
+        "vector/TonquillVectorItem.cpp",
+        "m_itemStatus = ItemStatus::Stretching;",
+        "m_itemStatus = ItemStatus::Placed;",
+        "tst_(vectoritems|pointerstates)",
+    ),
+    Mutation(
+        "the end of a rubber band is told to the host",
+        "document/TonquillScenePointer.cpp",
+        "        selectByRubberBand();\n        return;",
+        "        selectByRubberBand();\n        g_pMainWin->notifyTW();\n        return;",
+        "tst_(rubberband|hostnotices)",
+    ),
+    Mutation(
+        "a rubber band selects what it touches",
+        "document/TonquillScenePointer.cpp",
+        "Qt::ContainsItemBoundingRect",
+        "Qt::IntersectsItemBoundingRect",
+        "tst_rubberband",
+    ),
+    Mutation(
+        "a grand staff of 80 units has a second staff",
+        "vector/VectorShapes.cpp",
+        "end.y() - start.y() > secondStaffFrom",
+        "end.y() - start.y() >= secondStaffFrom",
+        "tst_vectorshapes",
+    ),
+    Mutation(
+        "the hooks of a triplet do not turn round",
+        "vector/VectorShapes.cpp",
+        "start.x() > end.x() ? -tripletHook : tripletHook;",
+        "tripletHook;",
+        "tst_vectorshapes",
+    ),
+    Mutation(
+        "a tie drawn to the left bends the wrong way",
+        "vector/ArcValuesFromPoints.cpp",
+        "if (x1 > x2) {",
+        "if (x1 < x2) {",
+        "tst_(arcvalues|vectorshapes)",
+    ),
+    Mutation(
+        "a message goes on behind a NUL",
+        "app/hostlink/IncomingMessage.cpp",
+        "m_bytes.indexOf('\\0');",
+        "-1;",
+        "tst_(incoming|hostlink)",
+    ),
+    Mutation(
+        "the host's records are separated by line ends",
+        "app/hostlink/HostLink.cpp",
+        "tokenize(u'|')",
+        "tokenize(u'\\n')",
+        "tst_hostlink",
+    ),
+    Mutation(
+        "a new text turns the other way",
+        "app/palette/InsertCommands.cpp",
+        "item->setRotation(-dialog.angle());",
+        "item->setRotation(dialog.angle());",
+        "tst_(insert|palette|simpletextdlg)",
+    ),
+    Mutation(
+        "a blank page is printed behind the last one",
+        "app/print/PagePrinter.cpp",
+        "if (i < m_window.pageCount - 1)",
+        "if (i < m_window.pageCount)",
+        "tst_.*print",
+    ),
+]
