@@ -93,7 +93,7 @@ public:
     /** Builds a copy of every record that was copied so far, moved by 30. */
     void onPaste();
 
-    /** Removes and destroys items without a parent, in time linear in their number. */
+    /** Removes and destroys items without a parent, each of which the list names once. */
     void destroyItems(const QList<QGraphicsItem *> &items);
 
 public Q_SLOTS:
@@ -124,6 +124,9 @@ private:
     void place(QGraphicsItem *item, int x, int y, int offset);
     QPointF cursorPosition() const;
     static QString recordOf(QObject *item);
+
+    // Items
+    void moveToFrontOfToolkitsList(const QList<QGraphicsItem *> &items);
 
     // Pointer
     QGraphicsItem *itemUnder(QPointF scenePos) const;

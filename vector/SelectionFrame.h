@@ -19,7 +19,7 @@ public:
     /** The frame of `parent`, with no anchors yet. */
     explicit SelectionFrame(QGraphicsItem *parent);
 
-    const QList<QPointF> &anchors() const { return m_anchors; }
+    QList<QPointF> anchors() const { return QList<QPointF>(m_anchors.cbegin(), m_anchors.cend()); }
 
     /** Replaces all anchors. */
     void setAnchors(const QList<QPointF> &anchors);
