@@ -10,10 +10,18 @@
 #include <QCursor>
 #include <QGraphicsView>
 
+namespace
+{
+/** Characters; every second item is the frame of another and has no record. */
+constexpr qsizetype typicalRecordSize = 32;
+} // namespace
+
 QString TonquillScene::notifyTW()
 {
     QString document = Records::pageCountLine(g_pMainWin->pageCount);
-    for (QGraphicsItem *item : items()) {
+    const QList<QGraphicsItem *> all = items();
+    document.reserve(document.size() + all.size() * typicalRecordSize / 2);
+    for (QGraphicsItem *item : all) {
         if (QObject *object = ItemReference::objectOf(item)) {
             const QString record = recordOf(object);
             qCDebug(lcRecords).noquote() << record;
@@ -36,6 +44,18 @@ void TonquillScene::constructItem(const QString &record, bool adding, int offset
 {
     qCDebug(lcRecords) << "conxtructitem itemname" << Records::keywordOf(record);
     build(Records::parse(record), adding, offset);
+}
+
+void TonquillScene::constructDocument(QStringView records)
+{
+    m_lastBuilt = nullptr;
+    m_isBuildingDocument = true;
+    for (const QStringView record : records.tokenize(u'|')) {
+        qCDebug(lcRecords) << "conxtructitem itemname" << Records::keywordOf(record);
+        build(Records::parse(record), false, 0);
+    }
+    m_isBuildingDocument = false;
+    m_lastAdded = ItemReference(m_lastBuilt);
 }
 
 namespace

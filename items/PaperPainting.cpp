@@ -2,8 +2,8 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QGraphicsTextItem>
+#include <QPaintDevice>
 #include <QPainter>
-#include <QPrinter>
 #include <QTextDocument>
 
 namespace
@@ -23,7 +23,8 @@ bool isFinePicture(const QPainter &painter)
 
 bool PaperPainting::isPrinter(const QPainter &painter)
 {
-    return dynamic_cast<QPrinter *>(painter.device()) != nullptr;
+    // Asked for every item that is painted, so not by a dynamic_cast.
+    return painter.device() && painter.device()->devType() == QInternal::Printer;
 }
 
 QStyleOptionGraphicsItem PaperPainting::optionFor(const QPainter &painter,
