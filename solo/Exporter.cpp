@@ -5,6 +5,7 @@
 #include "TonquillMainWin.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QPainter>
@@ -19,6 +20,18 @@ constexpr int svgDotsPerInch = 600;
 
 constexpr int fewestDots = 10;
 constexpr int mostDots = 2400;
+
+/** A drawing that brings along the notation font, which others do not have. */
+QByteArray withNotationFont(QByteArray svg)
+{
+    const QByteArray place("<defs>");
+    QFile font(QCoreApplication::applicationDirPath() + QStringLiteral("/Musica.ttf"));
+    if (!svg.contains("Musica") || !font.open(QIODevice::ReadOnly))
+        return svg;
+    const QByteArray style = "<style>@font-face{font-family:Musica;src:url(data:font/ttf;base64," +
+                             font.readAll().toBase64() + ")}</style>";
+    return svg.insert(svg.indexOf(place) + place.size(), style);
+}
 } // namespace
 
 QString Exporter::write(const QString &path, const ExportOptions &options)
@@ -86,5 +99,5 @@ QByteArray Exporter::svg(const ExportOptions &options)
     QPainter painter(&generator);
     page.paint(painter);
     painter.end();
-    return buffer.data();
+    return withNotationFont(buffer.data());
 }
