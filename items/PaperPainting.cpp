@@ -3,6 +3,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QGraphicsTextItem>
 #include <QPaintDevice>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QTextDocument>
 
@@ -11,6 +12,9 @@ namespace
 /** The resolution of a desktop screen: one of its pixels is a scene unit at 100 %. */
 constexpr qreal screenDotsPerInch = 96.0;
 constexpr qreal pointsPerInch = 72.0;
+
+/** 1/96 inch in scene units, between those across and those down. */
+constexpr qreal lineInDrawing = 0.93;
 
 /** True for a picture with more dots to the inch than a screen has. */
 bool isFinePicture(const QPainter &painter)
@@ -38,6 +42,9 @@ QStyleOptionGraphicsItem PaperPainting::optionFor(const QPainter &painter,
 
 QPen PaperPainting::linePen(const QPainter &painter, const QColor &color)
 {
+    // A drawing is scaled by whoever shows it, and its lines with it.
+    if (painter.paintEngine()->type() == QPaintEngine::SVG)
+        return QPen(color, lineInDrawing);
     const bool isFine = isPrinter(painter) || isFinePicture(painter);
     QPen pen(color, isFine ? painter.device()->logicalDpiX() / screenDotsPerInch : 0.0);
     pen.setCosmetic(true);

@@ -5,10 +5,12 @@
 #include "TonquillMainWin.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QPainter>
 #include <QPrinter>
+#include <QRegularExpression>
 #include <QSvgGenerator>
 #include <QTemporaryDir>
 
@@ -17,8 +19,35 @@ namespace
 /** Pictures in an SVG file are as fine as this many dots per inch make them. */
 constexpr int svgDotsPerInch = 600;
 
+/** The resolution that texts are laid out for. */
+constexpr int screenDotsPerInch = 96;
+
 constexpr int fewestDots = 10;
 constexpr int mostDots = 2400;
+
+/** A drawing that says how large its sheet is: what the toolkit wrote goes by another resolution.
+ */
+QByteArray withSheetSize(const QByteArray &svg, const QSize &dots)
+{
+    static const QRegularExpression written(
+        QStringLiteral("<svg width=\"[^\"]*\" height=\"[^\"]*\""));
+    const auto inches = [](int length) { return QString::number(double(length) / svgDotsPerInch); };
+    const QString right = QStringLiteral("<svg width=\"%1in\" height=\"%2in\"")
+                              .arg(inches(dots.width()), inches(dots.height()));
+    return QString::fromUtf8(svg).replace(written, right).toUtf8();
+}
+
+/** A drawing that brings along the notation font, which others do not have. */
+QByteArray withNotationFont(QByteArray svg)
+{
+    const QByteArray place("<defs>");
+    QFile font(QCoreApplication::applicationDirPath() + QStringLiteral("/Musica.ttf"));
+    if (!svg.contains("Musica") || !font.open(QIODevice::ReadOnly))
+        return svg;
+    const QByteArray style = "<style>@font-face{font-family:Musica;src:url(data:font/ttf;base64," +
+                             font.readAll().toBase64() + ")}</style>";
+    return svg.insert(svg.indexOf(place) + place.size(), style);
+}
 } // namespace
 
 QString Exporter::write(const QString &path, const ExportOptions &options)
@@ -80,11 +109,12 @@ QByteArray Exporter::svg(const ExportOptions &options)
     QBuffer buffer;
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
-    generator.setResolution(svgDotsPerInch);
+    // Letters are sized by this; pictures get as fine as the drawing is large.
+    generator.setResolution(screenDotsPerInch);
     generator.setSize(page.size());
     generator.setViewBox(QRect(QPoint(0, 0), page.size()));
     QPainter painter(&generator);
     page.paint(painter);
     painter.end();
-    return buffer.data();
+    return withNotationFont(withSheetSize(buffer.data(), page.size()));
 }
