@@ -66,6 +66,9 @@ struct Overloaded : Visitors...
 {
     using Visitors::operator()...;
 };
+
+template <typename... Visitors>
+Overloaded(Visitors...) -> Overloaded<Visitors...>;
 } // namespace
 
 void TonquillScene::build(const Records::Record &parsed, bool adding, int offset)
