@@ -60,9 +60,9 @@ TonquillMainWin::TonquillMainWin(HostConnection connection, QWidget *parent)
     , m_printer(QPrinter::ScreenResolution)
     , m_insert(std::make_unique<InsertCommands>(*this))
     , m_palette(std::make_unique<PaletteBuilder>(*this))
-    , m_pagePrinter(std::make_unique<PagePrinter>(*this))
     , m_symRefs(std::make_unique<SymRefFiles>(*this))
     , m_hostLink(std::make_unique<HostLink>(*this))
+    , m_pagePrinter(std::make_unique<PagePrinter>(*this, *m_hostLink))
 {
     Q_INIT_RESOURCE(images);
     // A dialog closed while this window is hidden is no reason to end the program.

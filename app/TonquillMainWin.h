@@ -186,9 +186,9 @@ private:
     QPrinter m_printer;
     std::unique_ptr<InsertCommands> m_insert;
     std::unique_ptr<PaletteBuilder> m_palette;
-    std::unique_ptr<PagePrinter> m_pagePrinter;
     std::unique_ptr<SymRefFiles> m_symRefs;
     std::unique_ptr<HostLink> m_hostLink;
+    std::unique_ptr<PagePrinter> m_pagePrinter;
 };
 
 /** The one main window, from its construction to its destruction. */

@@ -1,7 +1,10 @@
 #include "PaperPainting.h"
 
+#include <QAbstractTextDocumentLayout>
+#include <QGraphicsTextItem>
+#include <QPaintDevice>
 #include <QPainter>
-#include <QPrinter>
+#include <QTextDocument>
 
 namespace
 {
@@ -20,7 +23,8 @@ bool isFinePicture(const QPainter &painter)
 
 bool PaperPainting::isPrinter(const QPainter &painter)
 {
-    return dynamic_cast<QPrinter *>(painter.device()) != nullptr;
+    // Asked for every item that is painted, so not by a dynamic_cast.
+    return painter.device() && painter.device()->devType() == QInternal::Printer;
 }
 
 QStyleOptionGraphicsItem PaperPainting::optionFor(const QPainter &painter,
@@ -46,6 +50,18 @@ QFont PaperPainting::inSceneUnits(const QFont &font)
     if (font.pointSizeF() > 0)
         result.setPixelSize(qMax(1, qRound(font.pointSizeF() * screenDotsPerInch / pointsPerInch)));
     return result;
+}
+
+void PaperPainting::drawText(QPainter *painter, const QGraphicsTextItem &item,
+                             const QRectF &exposed)
+{
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.palette.setColor(QPalette::Text, item.defaultTextColor());
+    context.clip = exposed;
+    painter->save();
+    painter->setClipRect(exposed, Qt::IntersectClip);
+    item.document()->documentLayout()->draw(painter, context);
+    painter->restore();
 }
 
 void PaperPainting::drawSelectionOutline(QPainter *painter, const QRectF &bounds,

@@ -4,6 +4,7 @@
 #include <QPen>
 #include <QStyleOptionGraphicsItem>
 
+class QGraphicsTextItem;
 class QPainter;
 
 /** What items paint differently on paper than on screen. */
@@ -27,6 +28,12 @@ QPen linePen(const QPainter &painter, const QColor &color = Qt::black);
  * page, while points follow the dots per inch of whatever device is painted on.
  */
 QFont inSceneUnits(const QFont &font);
+
+/**
+ * Paints a text item's text and nothing else: while it is edited, neither the text cursor nor the
+ * marked words belong on paper. As on screen, it is cut off at `exposed`, in item coordinates.
+ */
+void drawText(QPainter *painter, const QGraphicsTextItem &item, const QRectF &exposed);
 
 /** The two-coloured dashed outline with which the toolkit marks a selected item. */
 void drawSelectionOutline(QPainter *painter, const QRectF &bounds,

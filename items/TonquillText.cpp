@@ -40,8 +40,10 @@ QString TonquillText::getParamStr()
 
 void TonquillText::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget)
 {
-    const QStyleOptionGraphicsItem ours = PaperPainting::optionFor(*painter, *option);
-    QGraphicsTextItem::paint(painter, &ours, widget);
+    if (PaperPainting::isPrinter(*painter))
+        PaperPainting::drawText(painter, *this, option->exposedRect);
+    else
+        QGraphicsTextItem::paint(painter, option, widget);
 }
 
 void TonquillText::mousePressEvent(QGraphicsSceneMouseEvent *event)

@@ -126,8 +126,10 @@ void TonquillTextBlock::onFontSizeChange()
 void TonquillTextBlock::paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
                               QWidget *widget)
 {
-    const QStyleOptionGraphicsItem ours = PaperPainting::optionFor(*painter, *option);
-    QGraphicsTextItem::paint(painter, &ours, widget);
+    if (PaperPainting::isPrinter(*painter))
+        PaperPainting::drawText(painter, *this, option->exposedRect);
+    else
+        QGraphicsTextItem::paint(painter, option, widget);
 }
 
 void TonquillTextBlock::mousePressEvent(QGraphicsSceneMouseEvent *event)

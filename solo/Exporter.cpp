@@ -1,5 +1,6 @@
 #include "Exporter.h"
 
+#include "AtomicFile.h"
 #include "PagePicture.h"
 #include "TonquillMainWin.h"
 
@@ -8,7 +9,6 @@
 #include <QImage>
 #include <QPainter>
 #include <QPrinter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 #include <QTemporaryDir>
 
@@ -34,7 +34,9 @@ QString Exporter::write(const QString &path, const ExportOptions &options)
     const QByteArray bytes = kind == QLatin1String("pdf")   ? pdf()
                              : kind == QLatin1String("png") ? png(options)
                                                             : svg(options);
-    return bytes.isEmpty() ? tr("%1: cannot be made").arg(path) : writeBytes(path, bytes);
+    const QString error =
+        bytes.isEmpty() ? tr("The picture is too large.") : AtomicFile::write(path, bytes);
+    return error.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(path, error);
 }
 
 /** A printer writes a file of its own, so that is made aside and put in place when it is whole. */
@@ -85,15 +87,4 @@ QByteArray Exporter::svg(const ExportOptions &options)
     page.paint(painter);
     painter.end();
     return buffer.data();
-}
-
-QString Exporter::writeBytes(const QString &path, const QByteArray &bytes)
-{
-    const QFileInfo info(path);
-    if (info.exists() && !info.isFile())
-        return tr("%1: not an ordinary file").arg(path);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        return QStringLiteral("%1: %2").arg(path, file.errorString());
-    return QString();
 }

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>AtomicFile</name>
+    <message>
+        <source>This is not an ordinary file.</source>
+        <translation>Das ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>Not everything could be written. Is the disk full?</source>
+        <translation>Es konnte nicht alles geschrieben werden. Ist der Datenträger voll?</translation>
+    </message>
+</context>
+<context>
     <name>BuiltInHost</name>
     <message>
         <source>%1 is in the way.</source>
@@ -11,17 +22,6 @@
 <context>
     <name>DocumentFile</name>
     <message>
-        <source>This is a folder.</source>
-        <translation>Das ist ein Ordner.</translation>
-    </message>
-    <message>
-        <source>This is not an ordinary file.</source>
-        <translation>Das ist keine gewöhnliche Datei.</translation>
-    </message>
-</context>
-<context>
-    <name>DocumentFile::Reading</name>
-    <message>
         <source>Line %1: %2</source>
         <translation>Zeile %1: %2</translation>
     </message>
@@ -29,12 +29,16 @@
         <source>… and %1 more.</source>
         <translation>… und %1 weitere.</translation>
     </message>
+    <message>
+        <source>This is a folder.</source>
+        <translation>Das ist ein Ordner.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentReader</name>
     <message>
         <source>Some characters are not UTF-8.</source>
-        <translation>Einige Zeichen sind kein UTF-8.</translation>
+        <translation>Einige Zeichen sind nicht UTF-8.</translation>
     </message>
     <message>
         <source>This is not a Tonquill document.</source>
@@ -42,7 +46,7 @@
     </message>
     <message>
         <source>The document was written by a newer version of Tonquill (format %1; this program knows %2).</source>
-        <translation>Das Dokument stammt von einer neueren Version von Tonquill (Format %1; dieses Programm kennt %2).</translation>
+        <translation>Das Dokument wurde von einer neueren Version von Tonquill geschrieben (Format %1; dieses Programm kennt %2).</translation>
     </message>
     <message>
         <source>The document breaks off here.</source>
@@ -54,7 +58,7 @@
     </message>
     <message>
         <source>The end of this text block is missing.</source>
-        <translation>Diesem Textblock fehlt das Ende.</translation>
+        <translation>Das Ende dieses Textblocks fehlt.</translation>
     </message>
     <message>
         <source>The number of pages cannot be right.</source>
@@ -84,19 +88,15 @@
     </message>
     <message>
         <source>there is no page %1, only 1 to %2</source>
-        <translation>Es gibt keine Seite %1, nur 1 bis %2</translation>
+        <translation>es gibt keine Seite %1, nur 1 bis %2</translation>
     </message>
     <message>
         <source>the resolution must be between %1 and %2</source>
-        <translation>Die Auflösung muss zwischen %1 und %2 liegen</translation>
+        <translation>die Auflösung muss zwischen %1 und %2 liegen</translation>
     </message>
     <message>
-        <source>%1: cannot be made</source>
-        <translation>%1: lässt sich nicht anlegen</translation>
-    </message>
-    <message>
-        <source>%1: not an ordinary file</source>
-        <translation>%1: keine gewöhnliche Datei</translation>
+        <source>The picture is too large.</source>
+        <translation>Das Bild ist zu groß.</translation>
     </message>
 </context>
 <context>
@@ -107,11 +107,11 @@
     </message>
     <message>
         <source>Save the changes to “%1”?</source>
-        <translation>Änderungen an „%1“ speichern?</translation>
+        <translation>Die Änderungen an „%1“ speichern?</translation>
     </message>
     <message>
         <source>Without saving they are lost.</source>
-        <translation>Ohne zu speichern gehen sie verloren.</translation>
+        <translation>Ohne Speichern gehen sie verloren.</translation>
     </message>
     <message>
         <source>Open</source>
@@ -123,24 +123,19 @@
     </message>
     <message>
         <source>“%1” cannot be opened.</source>
-        <translation>„%1“ lässt sich nicht öffnen.</translation>
+        <translation>„%1“ kann nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>“%1” can only be read in part.</source>
         <translation>„%1“ ist nur zum Teil lesbar.</translation>
     </message>
-    <message numerus="yes">
+    <message>
         <source>%1
 
-Show the %n item(s) that can be read? The file stays as it is until you save.</source>
-        <translation>
-            <numerusform>%1
+Show the rest, %2 items? The file stays as it is until you save.</source>
+        <translation>%1
 
-Den %n lesbaren Eintrag zeigen? Die Datei bleibt, wie sie ist, bis Sie speichern.</numerusform>
-            <numerusform>%1
-
-Die %n lesbaren Einträge zeigen? Die Datei bleibt, wie sie ist, bis Sie speichern.</numerusform>
-        </translation>
+Den Rest zeigen, %2 Elemente? Die Datei bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>Show What Can Be Read</source>
@@ -178,7 +173,7 @@ Die Datei ist, wie sie vorher war.</translation>
     </message>
     <message>
         <source>Tonquill ended unexpectedly. Recover the unsaved changes?</source>
-        <translation>Tonquill wurde unerwartet beendet. Die nicht gespeicherten Änderungen wiederherstellen?</translation>
+        <translation>Tonquill wurde unerwartet beendet. Die ungespeicherten Änderungen wiederherstellen?</translation>
     </message>
     <message>
         <source>%1, %2.
@@ -202,12 +197,16 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
         <translation>Maus</translation>
     </message>
     <message>
+        <source>Effect</source>
+        <translation>Wirkung</translation>
+    </message>
+    <message>
         <source>A palette button, then a click</source>
-        <translation>Eine Schaltfläche der Palette, dann ein Klick</translation>
+        <translation>Ein Knopf der Palette, dann ein Klick</translation>
     </message>
     <message>
         <source>places an item on the page</source>
-        <translation>setzt ein Zeichen auf die Seite</translation>
+        <translation>setzt ein Element auf die Seite</translation>
     </message>
     <message>
         <source>A second click</source>
@@ -235,15 +234,15 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>Drag an item</source>
-        <translation>Ziehen an einem Zeichen</translation>
+        <translation>Ein Element ziehen</translation>
     </message>
     <message>
         <source>moves the selection</source>
-        <translation>verschiebt die Auswahl</translation>
+        <translation>bewegt die Auswahl</translation>
     </message>
     <message>
         <source>Drag a green anchor</source>
-        <translation>Ziehen an einem grünen Anfasser</translation>
+        <translation>Einen grünen Anker ziehen</translation>
     </message>
     <message>
         <source>stretches a figure or a text block</source>
@@ -271,7 +270,7 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>changes its size of type</source>
-        <translation>ändert seine Schriftgröße</translation>
+        <translation>ändert die Schriftgröße</translation>
     </message>
     <message>
         <source>Ctrl and the wheel</source>
@@ -282,8 +281,8 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
         <translation>vergrößert am Zeiger</translation>
     </message>
     <message>
-        <source>Keys</source>
-        <translation>Tasten</translation>
+        <source>Key</source>
+        <translation>Taste</translation>
     </message>
     <message>
         <source>Ctrl, held</source>
@@ -291,7 +290,7 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>the note buttons insert rests</source>
-        <translation>die Notentasten setzen Pausen</translation>
+        <translation>die Notenknöpfe setzen Pausen</translation>
     </message>
     <message>
         <source>Arrow keys</source>
@@ -299,7 +298,7 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>move the selection by a little</source>
-        <translation>verschieben die Auswahl ein wenig</translation>
+        <translation>bewegen die Auswahl ein wenig</translation>
     </message>
     <message>
         <source>Delete, Backspace</source>
@@ -315,7 +314,7 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>copy the selection; paste everything that was copied so far</source>
-        <translation>Auswahl kopieren; alles bisher Kopierte einfügen</translation>
+        <translation>kopieren die Auswahl; fügen alles bisher Kopierte ein</translation>
     </message>
     <message>
         <source>Space</source>
@@ -323,7 +322,7 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>one more item like the last one</source>
-        <translation>noch ein Zeichen wie das letzte</translation>
+        <translation>noch ein Element wie das letzte</translation>
     </message>
     <message>
         <source>F5</source>
@@ -331,7 +330,7 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>quick text: letters typed on the page open a text block</source>
-        <translation>Schnelltext: auf der Seite getippte Buchstaben öffnen einen Textblock</translation>
+        <translation>Schnelltext: Tippen auf der Seite öffnet einen Textblock</translation>
     </message>
     <message>
         <source>Ctrl+Z, Ctrl+Shift+Z</source>
@@ -339,7 +338,7 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>undo and redo</source>
-        <translation>rückgängig machen und wiederherstellen</translation>
+        <translation>rückgängig machen und wiederholen</translation>
     </message>
     <message>
         <source>Ctrl+A</source>
@@ -355,7 +354,7 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>zoom in, zoom out, 100 %, fit width</source>
-        <translation>vergrößern, verkleinern, 100 %, ganze Breite</translation>
+        <translation>größer, kleiner, 100 %, Seitenbreite</translation>
     </message>
     <message>
         <source>Ctrl+N, Ctrl+O, Ctrl+S</source>
@@ -379,7 +378,7 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>The Musica Letters</source>
-        <translation>Die Musica-Buchstaben</translation>
+        <translation>Die Buchstaben der Musica</translation>
     </message>
     <message>
         <source>About Tonquill</source>
@@ -387,7 +386,7 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Tonquill %1&lt;/h3&gt;&lt;p&gt;A sketch pad for music notation: symbols laid by hand, exactly where you want them.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Tonquill %1&lt;/h3&gt;&lt;p&gt;Ein Skizzenblock für Noten: Zeichen, von Hand gesetzt, genau dorthin, wo sie stehen sollen.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Tonquill %1&lt;/h3&gt;&lt;p&gt;Ein Skizzenblock für Notenschrift: Zeichen von Hand gesetzt, genau dort, wo man sie will.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -410,19 +409,19 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>16th rest</source>
-        <translation>Sechzehntelpause</translation>
+        <translation>16tel-Pause</translation>
     </message>
     <message>
         <source>32nd rest</source>
-        <translation>Zweiunddreißigstelpause</translation>
+        <translation>32stel-Pause</translation>
     </message>
     <message>
         <source>64th rest</source>
-        <translation>Vierundsechzigstelpause</translation>
+        <translation>64stel-Pause</translation>
     </message>
     <message>
         <source>128th rest</source>
-        <translation>Hundertachtundzwanzigstelpause</translation>
+        <translation>128stel-Pause</translation>
     </message>
     <message>
         <source>Rests</source>
@@ -441,7 +440,7 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation>Ö&amp;ffnen…</translation>
+        <translation>Ö&amp;ffnen …</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
@@ -453,23 +452,23 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation>Speichern &amp;unter…</translation>
+        <translation>Speichern &amp;unter …</translation>
     </message>
     <message>
         <source>&amp;Export as PDF…</source>
-        <translation>Als PDF &amp;exportieren…</translation>
+        <translation>Als PDF &amp;exportieren …</translation>
     </message>
     <message>
         <source>Print Pre&amp;view…</source>
-        <translation>Druck&amp;vorschau…</translation>
+        <translation>Druck&amp;vorschau …</translation>
     </message>
     <message>
         <source>Page Set&amp;up…</source>
-        <translation>Seite ein&amp;richten…</translation>
+        <translation>Seite ein&amp;richten …</translation>
     </message>
     <message>
         <source>&amp;Print…</source>
-        <translation>&amp;Drucken…</translation>
+        <translation>&amp;Drucken …</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -485,7 +484,7 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>&amp;Wiederherstellen</translation>
+        <translation>&amp;Wiederholen</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
@@ -509,11 +508,11 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
-        <translation>&amp;Vergrößern</translation>
+        <translation>&amp;Größer</translation>
     </message>
     <message>
         <source>Zoom &amp;Out</source>
-        <translation>Ver&amp;kleinern</translation>
+        <translation>&amp;Kleiner</translation>
     </message>
     <message>
         <source>&amp;100 %</source>
@@ -521,15 +520,15 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>Fit &amp;Width</source>
-        <translation>Ganze &amp;Breite</translation>
+        <translation>Seiten&amp;breite</translation>
     </message>
     <message>
         <source>&amp;Sheet Music Toolbar</source>
-        <translation>&amp;Notenleiste</translation>
+        <translation>Werkzeugleiste &amp;Noten</translation>
     </message>
     <message>
         <source>&amp;Tablature Toolbar</source>
-        <translation>&amp;Tabulaturleiste</translation>
+        <translation>Werkzeugleiste &amp;Tabulatur</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
@@ -545,11 +544,11 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>The &amp;Musica Letters</source>
-        <translation>Die &amp;Musica-Buchstaben</translation>
+        <translation>Die Buchstaben der &amp;Musica</translation>
     </message>
     <message>
         <source>&amp;About Tonquill</source>
-        <translation>&amp;Über Tonquill</translation>
+        <translation>Ü&amp;ber Tonquill</translation>
     </message>
 </context>
 <context>
@@ -715,11 +714,11 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     <name>SoloApplication</name>
     <message>
         <source>A sketch pad for music notation, with files of its own.</source>
-        <translation>Ein Skizzenblock für Noten, mit eigenen Dateien.</translation>
+        <translation>Ein Skizzenblock für Notenschrift, mit eigenen Dateien.</translation>
     </message>
     <message>
         <source>Write FILE as PDF, PNG or SVG, told by the suffix of &lt;out&gt;, and show no window.</source>
-        <translation>DATEI als PDF, PNG oder SVG schreiben, je nach Endung von &lt;out&gt;, ohne ein Fenster zu zeigen.</translation>
+        <translation>DATEI als PDF, PNG oder SVG schreiben, nach der Endung von &lt;out&gt;, und kein Fenster zeigen.</translation>
     </message>
     <message>
         <source>The page of a PNG or SVG picture; the first if not given.</source>
@@ -747,7 +746,7 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>The toolbar&apos;s undo and redo cannot be used; the menu&apos;s can. %1</source>
-        <translation>Rückgängig und Wiederherstellen gehen nur im Menü, nicht in der Symbolleiste. %1</translation>
+        <translation>Rückgängig und Wiederholen gehen nicht von der Werkzeugleiste, wohl aber vom Menü aus. %1</translation>
     </message>
     <message>
         <source>another Tonquill is running and does not answer</source>
@@ -755,15 +754,15 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
     <message>
         <source>A host for Tonquill is running already.</source>
-        <translation>Ein Wirt für Tonquill läuft bereits.</translation>
+        <translation>Ein Wirtsprogramm für Tonquill läuft schon.</translation>
     </message>
     <message>
         <source>It keeps the document and its history. Tonquill can open as its editor, without files and menus of its own.</source>
-        <translation>Er hält das Dokument und seinen Verlauf. Tonquill kann sich als sein Editor öffnen, ohne eigene Dateien und Menüs.</translation>
+        <translation>Es führt das Dokument und dessen Verlauf. Tonquill kann sich als sein Editor öffnen, ohne eigene Dateien und Menüs.</translation>
     </message>
     <message>
         <source>Open as Its Editor</source>
-        <translation>Als sein Editor öffnen</translation>
+        <translation>Als dessen Editor öffnen</translation>
     </message>
 </context>
 <context>

@@ -37,6 +37,8 @@ HostLink::HostLink(TonquillMainWin &window)
 
 void HostLink::readAvailable()
 {
+    if (m_paused)
+        return;
     const QByteArray bytes = m_window.socket.readAll();
     if (bytes.isEmpty())
         return;
@@ -55,6 +57,8 @@ void HostLink::readAvailable()
  */
 void HostLink::judgeIfQuiet()
 {
+    if (m_paused)
+        return;
     m_window.socket.waitForReadyRead(0);
     readAvailable();
     if (!m_quiet.isActive())
@@ -100,18 +104,35 @@ void HostLink::showBox(const QString &title, const QString &text)
 
 void HostLink::receiveDocument(const QString &payload)
 {
-    TonquillScene &scene = *m_window.scene;
-    scene.clearScene();
+    m_window.scene->clearScene();
     // A page-count line builds nothing: pages come and go with the user's page controls only.
-    for (const QStringView record : QStringView(payload).tokenize(u'|')) {
-        if (!record.isEmpty() && record != QStringView(u"\n"))
-            scene.constructItem(record.toString(), false, 0);
+    m_window.scene->constructDocument(payload);
+}
+
+void HostLink::pause()
+{
+    m_paused = true;
+}
+
+/** A message that had begun to arrive is given its time anew: its rest may still be unread. */
+void HostLink::resume()
+{
+    m_paused = false;
+    m_sinceFirstPiece.start();
+    if (m_window.socket.state() == QLocalSocket::UnconnectedState) {
+        onDisconnected();
+        return;
     }
+    readAvailable();
+    if (!m_incoming.isEmpty() && !m_quiet.isActive())
+        m_quiet.start(quietTimeOf(m_incoming));
 }
 
 void HostLink::onDisconnected()
 {
     m_outbox.clear();
+    if (m_paused)
+        return;
     readAvailable();
     // What is cut off within a record is no document: better the one that the user sees.
     if (m_incoming.endsWithRecord())
@@ -142,8 +163,7 @@ void HostLink::sendNext()
         return;
     const Outbox::Message next = m_outbox.takeFirst();
     const QString text = next.isDocument() ? m_window.scene->notifyTW() : next.command;
-    const QString message = HostMessages::toHost + text;
-    qCDebug(lcRecords).noquote() << "notifyTW " << message;
+    qCDebug(lcRecords).noquote() << "notifyTW " << HostMessages::toHost + text;
     // Latin-1 keeps an accented letter; what it lacks becomes a question mark.
-    m_window.socket.write(message.toLatin1());
+    m_window.socket.write(HostMessages::toHost.toLatin1() + text.toLatin1());
 }

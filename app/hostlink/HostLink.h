@@ -35,6 +35,13 @@ public:
     /** Shows the result of the host's document: records separated by "|". */
     void receiveDocument(const QString &payload);
 
+    /**
+     * Leaves what the host sends unread until resume(), so that the document stays as it is while
+     * events are processed in the middle of work on it.
+     */
+    void pause();
+    void resume();
+
 private Q_SLOTS:
     void judgeIfQuiet();
     void sendNext();
@@ -50,4 +57,5 @@ private:
     QElapsedTimer m_sinceFirstPiece;
     QTimer m_quiet;
     Outbox m_outbox;
+    bool m_paused = false;
 };

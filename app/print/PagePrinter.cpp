@@ -1,9 +1,14 @@
 #include "PagePrinter.h"
 
+#include "PrintProgress.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 
+#include <QFile>
+#include <QFileInfo>
+#include <QMessageBox>
 #include <QPageSetupDialog>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
@@ -12,10 +17,36 @@ namespace
 {
 /** The frame of a page is printed whole: this much more than the frame on every side. */
 constexpr qreal aroundFrame = 2.0;
+
+/** The last bytes of a PDF file, which hold its end mark. */
+constexpr qint64 endOfPdf = 16;
+
+/** True if the printer only keeps the pages for the print preview to show. */
+bool isPreview(const QPrinter &printer)
+{
+    return printer.paintEngine()->type() == QPaintEngine::Picture;
+}
+
+/** True if the printer has been writing a file on disk, and no device. */
+bool writesFile(const QPrinter &printer)
+{
+    return !isPreview(printer) && printer.outputFormat() == QPrinter::PdfFormat &&
+           QFileInfo(printer.outputFileName()).isFile();
+}
+
+/** False if the file lacks its end: the printer does not say that the disk was full. */
+bool isFileComplete(const QPrinter &printer)
+{
+    QFile file(printer.outputFileName());
+    if (!file.open(QIODevice::ReadOnly) || !file.seek(qMax<qint64>(0, file.size() - endOfPdf)))
+        return false;
+    return file.readAll().contains("%%EOF");
+}
 } // namespace
 
-PagePrinter::PagePrinter(TonquillMainWin &window)
+PagePrinter::PagePrinter(TonquillMainWin &window, HostLink &hostLink)
     : m_window(window)
+    , m_hostLink(hostLink)
 {}
 
 void PagePrinter::showPreview()
@@ -36,8 +67,49 @@ void PagePrinter::showPageSetup()
 void PagePrinter::showPrintDialog()
 {
     QPrintDialog dialog(&m_window.sharedPrinter(), &m_window);
+    // All pages are printed, so the dialog must not promise a part of them. Where a print server
+    // picks the pages itself it offers them nevertheless.
+    dialog.setOption(QPrintDialog::PrintPageRange, false);
     if (dialog.exec() == QDialog::Accepted)
         print(m_window.sharedPrinter());
+}
+
+void PagePrinter::print(QPrinter &printer)
+{
+    const Outcome outcome = printPages(printer);
+    const bool isCutOff = outcome == Outcome::Cancelled || outcome == Outcome::BrokenOff;
+    if (isCutOff && writesFile(printer))
+        QFile::remove(printer.outputFileName());
+    if (outcome == Outcome::NotStarted || outcome == Outcome::BrokenOff)
+        reportFailure();
+}
+
+PagePrinter::Outcome PagePrinter::printPages(QPrinter &printer) const
+{
+    QPainter painter;
+    if (!painter.begin(&printer))
+        return Outcome::NotStarted;
+    painter.setRenderHint(QPainter::LosslessImageRendering);
+    const std::unique_ptr<PrintProgress> progress = progressOf(printer);
+    for (int i = 0; i < m_window.pageCount; ++i) {
+        if (progress && !progress->beginPage(i)) {
+            printer.abort();
+            return Outcome::Cancelled;
+        }
+        m_window.scene->render(&painter, QRectF(), sourceOfPage(i), Qt::IgnoreAspectRatio);
+        if (i < m_window.pageCount - 1 && !printer.newPage())
+            return Outcome::BrokenOff;
+    }
+    painter.end();
+    return !writesFile(printer) || isFileComplete(printer) ? Outcome::Printed : Outcome::BrokenOff;
+}
+
+/** None for the preview, which is no print, nor while there is no window to watch it. */
+std::unique_ptr<PrintProgress> PagePrinter::progressOf(const QPrinter &printer) const
+{
+    if (isPreview(printer) || !m_window.isVisible())
+        return nullptr;
+    return std::make_unique<PrintProgress>(m_window, m_hostLink, m_window.pageCount);
 }
 
 QRectF PagePrinter::sourceOfPage(int index) const
@@ -49,13 +121,12 @@ QRectF PagePrinter::sourceOfPage(int index) const
                   scene.pageRect.height() + 2 * aroundFrame);
 }
 
-void PagePrinter::print(QPrinter &printer) const
+/** The box does not run a loop of its own: whoever prints can go on. */
+void PagePrinter::reportFailure() const
 {
-    QPainter painter(&printer);
-    painter.setRenderHint(QPainter::LosslessImageRendering);
-    for (int i = 0; i < m_window.pageCount; ++i) {
-        m_window.scene->render(&painter, QRectF(), sourceOfPage(i), Qt::IgnoreAspectRatio);
-        if (i < m_window.pageCount - 1)
-            printer.newPage();
-    }
+    auto *box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Tonquill"),
+                                QStringLiteral("The pages could not be printed."), QMessageBox::Ok,
+                                &m_window);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
 }

@@ -2,6 +2,10 @@
 
 #include <QRectF>
 
+#include <memory>
+
+class HostLink;
+class PrintProgress;
 class QPrinter;
 class TonquillMainWin;
 
@@ -9,17 +13,27 @@ class TonquillMainWin;
 class PagePrinter
 {
 public:
-    explicit PagePrinter(TonquillMainWin &window);
+    /** Both outlive the page printer; `hostLink` has to wait while a long print goes on. */
+    PagePrinter(TonquillMainWin &window, HostLink &hostLink);
 
     void showPreview();
     void showPageSetup();
     void showPrintDialog();
 
-    /** Prints every page, stretched to the printer's printable area. */
-    void print(QPrinter &printer) const;
+    /**
+     * Prints every page, stretched to the printer's printable area. The user can cancel a long
+     * print, which leaves no file behind, and is told of a print that fails.
+     */
+    void print(QPrinter &printer);
 
 private:
+    enum class Outcome { Printed, Cancelled, NotStarted, BrokenOff };
+
+    Outcome printPages(QPrinter &printer) const;
+    std::unique_ptr<PrintProgress> progressOf(const QPrinter &printer) const;
     QRectF sourceOfPage(int index) const;
+    void reportFailure() const;
 
     TonquillMainWin &m_window;
+    HostLink &m_hostLink;
 };
