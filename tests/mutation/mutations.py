@@ -144,7 +144,7 @@ MUTATIONS = [
     ),
     Mutation(
         "the host's records are separated by line ends",
-        "app/hostlink/HostLink.cpp",
+        "document/TonquillSceneRecords.cpp",
         "tokenize(u'|')",
         "tokenize(u'\\n')",
         "tst_messages",
