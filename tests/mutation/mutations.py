@@ -35,7 +35,7 @@ MUTATIONS = [
         "document/TonquillScenePages.cpp",
         "(0.25 * paperRect.height() + p.y())",
         "(0.5 * paperRect.height() + p.y())",
-        "tst_pages",
+        "tst_pagegeometry",
     ),
     Mutation(
         "a cleared scene has the normal height",
