@@ -154,7 +154,7 @@ MUTATIONS = [
         "app/palette/InsertCommands.cpp",
         "item->setRotation(-dialog.angle());",
         "item->setRotation(dialog.angle());",
-        "tst_insertcommands",
+        "tst_simpletextdlg",
     ),
     Mutation(
         "a blank page is printed behind the last one",
