@@ -17,7 +17,7 @@ FOLDERS = ("app", "document", "items", "vector", "solo")
 
 def reports(build):
     """What gcov says of each object file that has run."""
-    for data in sorted(build.rglob("*.gcda")):
+    for data in sorted(build.resolve().rglob("*.gcda")):
         command = ["gcov", "--json-format", "--stdout", data]
         result = subprocess.run(command, cwd=data.parent, check=True, capture_output=True)
         yield from map(json.loads, result.stdout.splitlines())

@@ -112,6 +112,18 @@ class Guide:
         self.save("preview", self.desktop.window(self.editor.process, "^Print Preview$"))
 
 
+def program_with_files(desktop, programs, folder):
+    """The program with files, with its Insert menu open."""
+    document = desktop.folder / "minuet.tonquill"
+    document.write_text("".join(sheet()))
+    program = desktop.start([programs / "tonquill-solo", document], log="solo.log")
+    window = desktop.window(program, "^minuet")
+    window.picture_at_rest()
+    desktop.key("alt+i")
+    window.picture_at_rest().crop(0, 0, 640, 420).save(folder / "solo.png")
+    desktop.key("Escape", "Escape")
+
+
 def main(programs, folder):
     folder.mkdir(parents=True, exist_ok=True)
     with Desktop() as desktop:
@@ -119,6 +131,8 @@ def main(programs, folder):
         for step in (guide.place, guide.select, guide.stretch, guide.texts, guide.pages):
             step()
         guide.preview()
+    with Desktop() as desktop:
+        program_with_files(desktop, programs, folder)
 
 
 stop_after(120)

@@ -8,7 +8,7 @@ import tempfile
 import unittest
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-PROGRAMS = pathlib.Path(sys.argv.pop(1))
+PROGRAMS = pathlib.Path(sys.argv.pop(1)).resolve()
 LINK = re.compile(r"\]\(([^)#:]+)(?:#[^)]*)?\)")
 
 
@@ -36,6 +36,17 @@ class DocumentsTest(unittest.TestCase):
         kept = {file.name: picture_size(file) for file in (ROOT / "docs/pictures").iterdir()}
         self.assertEqual(kept, {file.name: picture_size(file) for file in folder.iterdir()})
         self.assertEqual(set(kept), shown)
+
+    def test_export_commands_of_the_guide_write_their_files(self):
+        guide = (ROOT / "docs/user-guide.md").read_text(encoding="utf-8")
+        commands = re.findall(r"^    tonquill-solo (--export .*)$", guide, re.MULTILINE)
+        folder = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory()))
+        (folder / "song.tonquill").write_text("tonquill_pagecount 1\n")
+        for command in commands:
+            arguments = command.split()
+            subprocess.run([PROGRAMS / "tonquill-solo", *arguments], cwd=folder, check=True)
+            self.assertTrue((folder / arguments[1]).is_file(), command)
+        self.assertEqual(len(commands), 2)
 
 
 if __name__ == "__main__":

@@ -35,7 +35,7 @@ MUTATIONS = [
         "document/TonquillScenePages.cpp",
         "(0.25 * paperRect.height() + p.y())",
         "(0.5 * paperRect.height() + p.y())",
-        "tst_pages",
+        "tst_pagegeometry",
     ),
     Mutation(
         "a cleared scene has the normal height",
@@ -144,7 +144,7 @@ MUTATIONS = [
     ),
     Mutation(
         "the host's records are separated by line ends",
-        "app/hostlink/HostLink.cpp",
+        "document/TonquillSceneRecords.cpp",
         "tokenize(u'|')",
         "tokenize(u'\\n')",
         "tst_messages",
@@ -154,7 +154,7 @@ MUTATIONS = [
         "app/palette/InsertCommands.cpp",
         "item->setRotation(-dialog.angle());",
         "item->setRotation(dialog.angle());",
-        "tst_insertcommands",
+        "tst_simpletextdlg",
     ),
     Mutation(
         "a blank page is printed behind the last one",
