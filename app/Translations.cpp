@@ -1,14 +1,25 @@
 #include "Translations.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
+
+namespace
+{
+bool install(QCoreApplication &application, const QString &name, const QString &folder)
+{
+    auto *translator = new QTranslator(&application);
+    return translator->load(QLocale(), name, QStringLiteral("_"), folder) &&
+           QCoreApplication::installTranslator(translator);
+}
+} // namespace
 
 void installTranslations(QCoreApplication &application)
 {
     Q_INIT_RESOURCE(translations);
-    auto *translator = new QTranslator(&application);
-    if (translator->load(QLocale(), QStringLiteral("tonquill"), QStringLiteral("_"),
-                         QStringLiteral(":/translations")))
-        QCoreApplication::installTranslator(translator);
+    // The toolkit has more languages than we; it is not to speak one that we do not.
+    if (install(application, QStringLiteral("tonquill"), QStringLiteral(":/translations")))
+        install(application, QStringLiteral("qtbase"),
+                QLibraryInfo::path(QLibraryInfo::TranslationsPath));
 }

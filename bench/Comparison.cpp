@@ -30,8 +30,8 @@ void registerSide(const Comparison &comparison, const char *side, const Measure 
     };
     benchmark::internal::Benchmark *registered = benchmark::RegisterBenchmark(name.c_str(), run);
     registered->Iterations(1)->UseManualTime()->Unit(benchmark::kMillisecond);
-    for (const int count : comparison.counts)
-        registered->Arg(onlyCount > 0 ? onlyCount : count);
+    for (const int count : onlyCount > 0 ? std::vector<int>{onlyCount} : comparison.counts)
+        registered->Arg(count);
 }
 } // namespace
 

@@ -49,6 +49,7 @@ double repaintBare(const SampleDocument::Samples &samples, Zoom zoom)
     QGraphicsView view(&scene);
     view.resize(g_pMainWin->view()->size());
     view.show();
+    view.hide();
     return repaint(view, zoom);
 }
 

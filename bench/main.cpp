@@ -64,7 +64,10 @@ int main(int argc, char *argv[])
         return Probe::run(parser.value(Probe::option()));
 
     TonquillMainWin window;
+    // Shown once, for its layout; hidden, so that its repaints are not counted with the rows.
     window.show();
+    QCoreApplication::processEvents();
+    window.hide();
     initializeBenchmarks(parser.value(repetitions), parser.value(only));
     TableReporter reporter(parser.value(json).toStdString());
     benchmark::RunSpecifiedBenchmarks(&reporter);

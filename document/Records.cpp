@@ -1,7 +1,11 @@
 #include "Records.h"
 
-#include <QHash>
+#include <QList>
 #include <QVarLengthArray>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
 
 namespace
 {
@@ -9,6 +13,9 @@ const QString textblockEnd = QStringLiteral("tonquill_textblock_end");
 
 /** No kind has more fields; the simple text has nine after its keyword. */
 constexpr qsizetype mostFields = 9;
+
+/** A number of so many digits fits an int, whatever the digits. */
+constexpr qsizetype mostPlainDigits = 9;
 
 /** The first fields of a record, without its keyword. */
 class Fields
@@ -27,7 +34,7 @@ public:
     }
 
     qsizetype count() const { return m_fields.size(); }
-    int number(qsizetype index) const { return m_fields[index].toInt(); }
+    int number(qsizetype index) const { return toInt(m_fields[index]); }
     uint hexNumber(qsizetype index) const
     {
         return static_cast<uint>(m_fields[index].toInt(nullptr, 16));
@@ -35,6 +42,22 @@ public:
     QString text(qsizetype index) const { return m_fields[index].toString(); }
 
 private:
+    /** As QStringView::toInt(), which is slow, but quick for the plain numbers that we write. */
+    static int toInt(QStringView text)
+    {
+        const bool negative = text.startsWith(u'-');
+        const QStringView digits = text.sliced(negative ? 1 : 0);
+        if (digits.isEmpty() || digits.size() > mostPlainDigits)
+            return text.toInt();
+        int result = 0;
+        for (const QChar digit : digits) {
+            if (digit < u'0' || digit > u'9')
+                return text.toInt();
+            result = 10 * result + (digit.unicode() - u'0');
+        }
+        return negative ? -result : result;
+    }
+
     QVarLengthArray<QStringView, mostFields> m_fields;
 };
 
@@ -92,11 +115,16 @@ Record parseTextBlock(const QString &, QStringView rest)
                               header.number(3), body.first(end).toString()};
 }
 
-using Parser = Record (*)(const QString &keyword, QStringView rest);
-
-const QHash<QString, Parser> &parsers()
+/** How the records of one kind are read. */
+struct Reader
 {
-    static const QHash<QString, Parser> table{
+    QString keyword;
+    Record (*parse)(const QString &keyword, QStringView rest);
+};
+
+const QList<Reader> &readers()
+{
+    static const QList<Reader> table{
         {Records::bitmapKeyword(), parseBitmap},
         {Records::timesigKeyword(), parseTimeSig},
         {Records::grandstaffKeyword(), parseVector},
@@ -125,8 +153,10 @@ public:
 
     RecordLine &operator<<(int number)
     {
+        std::array<char, 12> digits;
+        const auto end = std::to_chars(digits.begin(), digits.end(), number).ptr;
         m_line += u' ';
-        m_line += QString::number(number);
+        m_line += QLatin1String(digits.begin(), end);
         return *this;
     }
 
@@ -193,19 +223,22 @@ QString Records::textblockKeyword()
     return QStringLiteral("tonquill_textblock_begin");
 }
 
-QString Records::keywordOf(const QString &record)
+QStringView Records::keywordOf(QStringView record)
 {
     const qsizetype blank = record.indexOf(u' ');
-    return blank > 0 ? record.first(blank) : QString();
+    return blank > 0 ? record.first(blank) : QStringView();
 }
 
-Records::Record Records::parse(const QString &record)
+Records::Record Records::parse(QStringView record)
 {
-    const QString keyword = keywordOf(record);
-    const Parser parser = parsers().value(keyword, nullptr);
-    if (!parser)
+    const QStringView keyword = keywordOf(record);
+    if (keyword.isEmpty())
         return {};
-    return parser(keyword, QStringView(record).sliced(keyword.size() + 1));
+    const auto reader = std::find_if(readers().cbegin(), readers().cend(),
+                                     [keyword](const Reader &r) { return r.keyword == keyword; });
+    if (reader == readers().cend())
+        return {};
+    return reader->parse(reader->keyword, record.sliced(keyword.size() + 1));
 }
 
 QString Records::pageCountLine(int pageCount)

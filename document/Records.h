@@ -89,10 +89,10 @@ using Record = std::variant<std::monostate, Bitmap, TimeSig, Vector, Text, TextB
  * Reads one record. Fields that are not numbers read as 0 and surplus ones are ignored; an unknown
  * keyword, too few fields, or a text block without its end gives an empty Record.
  */
-Record parse(const QString &record);
+Record parse(QStringView record);
 
 /** The keyword of a record: the text before its first blank, or nothing. */
-QString keywordOf(const QString &record);
+QStringView keywordOf(QStringView record);
 
 /** The line with which a document begins. */
 QString pageCountLine(int pageCount);

@@ -12,11 +12,11 @@
 
 namespace
 {
-/** From this number on, removing items in any order costs more than sorting them first. */
-constexpr qsizetype manyItems = 32;
+/** From this number on, removing items one by one costs more than sorting them first. */
+constexpr qsizetype manyItems = 20000;
 
-/** Below every z value that the document uses. */
-constexpr qreal belowAllItems = -1.0e6;
+/** Below every z value that the document uses, and with room for more items than memory has. */
+constexpr qreal belowAllItems = -1.0e12;
 } // namespace
 
 TonquillScene::TonquillScene(QObject *parent)
@@ -43,7 +43,12 @@ TonquillScene::~TonquillScene()
 void TonquillScene::addNewItem(QGraphicsItem *item)
 {
     addItem(item);
-    m_lastAdded = ItemReference(item);
+    // Of a document only the last item is remembered: watching each in turn would cost as much
+    // memory and time as two of its coordinates.
+    if (m_isBuildingDocument)
+        m_lastBuilt = item;
+    else
+        m_lastAdded = ItemReference(item);
 }
 
 void TonquillScene::itemAwaitsPlacing(QGraphicsItem *item, QObject *object)
@@ -75,19 +80,24 @@ bool TonquillScene::isNewItemIsAdding()
 
 void TonquillScene::destroyItems(const QList<QGraphicsItem *> &items)
 {
-    if (items.size() < manyItems) {
-        qDeleteAll(items);
-        update();
-        return;
-    }
-    // The toolkit looks each item up in its list of top-level items, from the front. With those
-    // that go at the front, in their order, every one is found at once; in any other order the
-    // cost would grow with the square of their number.
-    for (QGraphicsItem *item : items)
-        item->setZValue(belowAllItems);
-    const QSet<QGraphicsItem *> doomed(items.cbegin(), items.cend());
-    QList<QGraphicsItem *> inOrder = this->items(Qt::AscendingOrder);
-    inOrder.removeIf([&doomed](QGraphicsItem *item) { return !doomed.contains(item); });
-    qDeleteAll(inOrder);
+    if (items.size() >= manyItems)
+        moveToFrontOfToolkitsList(items);
+    qDeleteAll(items);
     update();
+}
+
+/**
+ * The toolkit takes an item off its list of top-level items by looking from the front and closing
+ * the gap, so taking off many costs the square of their number. It costs nothing at the front of
+ * the list, which the toolkit sorts by z when it works without its index.
+ */
+void TonquillScene::moveToFrontOfToolkitsList(const QList<QGraphicsItem *> &items)
+{
+    for (qsizetype i = 0; i < items.size(); ++i)
+        items[i]->setZValue(belowAllItems + static_cast<qreal>(i));
+    setItemIndexMethod(NoIndex);
+    itemAt(QPointF(), QTransform());
+    setItemIndexMethod(BspTreeIndex);
+    // Not before the next painting: an item that is not yet in the index is looked for as well.
+    itemAt(QPointF(), QTransform());
 }

@@ -74,6 +74,9 @@ public:
      */
     void constructItem(const QString &record, bool adding, int offset);
 
+    /** Builds an item from each of the records, which are separated by "|". */
+    void constructDocument(QStringView records);
+
     // Items
 
     /** Adds the item, which the scene then owns, and remembers it as the last added one. */
@@ -90,7 +93,7 @@ public:
     /** Builds a copy of every record that was copied so far, moved by 30. */
     void onPaste();
 
-    /** Removes and destroys items without a parent, in time linear in their number. */
+    /** Removes and destroys items without a parent, each of which the list names once. */
     void destroyItems(const QList<QGraphicsItem *> &items);
 
 public Q_SLOTS:
@@ -118,9 +121,12 @@ private:
     void build(const Records::Record &record, bool adding, int offset);
     void buildBitmap(const Records::Bitmap &record, bool adding, int offset);
     void buildText(const Records::Text &record, bool adding, int offset);
-    void place(QGraphicsItem *item, int x, int y, int offset);
+    void place(QGraphicsItem *item, int x, int y, double offset);
     QPointF cursorPosition() const;
     static QString recordOf(QObject *item);
+
+    // Items
+    void moveToFrontOfToolkitsList(const QList<QGraphicsItem *> &items);
 
     // Pointer
     QGraphicsItem *itemUnder(QPointF scenePos) const;
@@ -143,6 +149,8 @@ private:
     void addSameItem();
 
     ItemReference m_lastAdded;
+    bool m_isBuildingDocument = false;
+    QGraphicsItem *m_lastBuilt = nullptr; ///< while a document is built
     QList<ItemReference> m_waiting;       ///< items that were added to be placed
     QList<QPointer<QObject>> m_dropped;   ///< taken off half-placed, still owned
     QPointer<TonquillText> m_contextText; ///< whose context menu is open, or was

@@ -37,7 +37,9 @@ QPointF nudgeBy(int key)
 
 bool isTextBeingEdited(const QGraphicsItem *item)
 {
-    const auto *text = dynamic_cast<const QGraphicsTextItem *>(item);
+    // Two steps that are quick for the many items which are no texts.
+    const QGraphicsObject *object = item ? item->toGraphicsObject() : nullptr;
+    const auto *text = qobject_cast<const QGraphicsTextItem *>(object);
     return text && TonquillTextBlock::isEdited(*text);
 }
 } // namespace

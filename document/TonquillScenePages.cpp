@@ -1,9 +1,12 @@
 #include "Logging.h"
 #include "PaperPainting.h"
+#include "TonquillBitmap.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
+#include "TonquillVectorTriplet.h"
 
 #include <QPainter>
+#include <QPainterPath>
 
 void TonquillScene::resizeToPages()
 {
@@ -93,10 +96,38 @@ void TonquillScene::clearScene()
     setSceneRect(0, 0, sceneRect().width(), paperRect.height() - pageSpacing);
 }
 
+namespace
+{
+/** True for the items of the document; their shape is the rectangle of their bounds. */
+bool isDocumentItem(const QGraphicsItem &item)
+{
+    return item.type() >= TonquillBitmap::Type && item.type() <= TonquillVectorTriplet::Type;
+}
+
+/**
+ * Whether the item's shape reaches into the area. The toolkit compares outlines, which takes ten
+ * times as long as moving the item, so it is asked only about items on the area's edge and about
+ * those whose shape may be anything.
+ */
+bool reachesInto(const QRectF &area, const QGraphicsItem &item)
+{
+    constexpr qreal edge = 1.0;
+    const QRectF bounds = item.sceneBoundingRect();
+    if (isDocumentItem(item) && !bounds.isEmpty() &&
+        area.adjusted(edge, edge, -edge, -edge).contains(bounds))
+        return true;
+    QPainterPath outline;
+    outline.addRect(area);
+    return item.collidesWithPath(item.mapFromScene(outline), Qt::IntersectsItemShape);
+}
+} // namespace
+
 QList<QGraphicsItem *> TonquillScene::topLevelItemsIn(const QRectF &area) const
 {
-    QList<QGraphicsItem *> result = items(area, Qt::IntersectsItemShape);
-    result.removeIf([](const QGraphicsItem *item) { return item->parentItem() != nullptr; });
+    QList<QGraphicsItem *> result = items(area, Qt::IntersectsItemBoundingRect);
+    result.removeIf([&area](const QGraphicsItem *item) {
+        return item->parentItem() || !reachesInto(area, *item);
+    });
     return result;
 }
 

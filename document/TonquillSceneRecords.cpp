@@ -10,10 +10,18 @@
 #include <QCursor>
 #include <QGraphicsView>
 
+namespace
+{
+/** Characters; every second item is the frame of another and has no record. */
+constexpr qsizetype typicalRecordSize = 32;
+} // namespace
+
 QString TonquillScene::notifyTW()
 {
     QString document = Records::pageCountLine(g_pMainWin->pageCount);
-    for (QGraphicsItem *item : items()) {
+    const QList<QGraphicsItem *> all = items();
+    document.reserve(document.size() + all.size() * typicalRecordSize / 2);
+    for (QGraphicsItem *item : all) {
         if (QObject *object = ItemReference::objectOf(item)) {
             const QString record = recordOf(object);
             qCDebug(lcRecords).noquote() << record;
@@ -38,6 +46,18 @@ void TonquillScene::constructItem(const QString &record, bool adding, int offset
     build(Records::parse(record), adding, offset);
 }
 
+void TonquillScene::constructDocument(QStringView records)
+{
+    m_lastBuilt = nullptr;
+    m_isBuildingDocument = true;
+    for (const QStringView record : records.tokenize(u'|')) {
+        qCDebug(lcRecords) << "conxtructitem itemname" << Records::keywordOf(record);
+        build(Records::parse(record), false, 0);
+    }
+    m_isBuildingDocument = false;
+    m_lastAdded = ItemReference(m_lastBuilt);
+}
+
 namespace
 {
 /** Overloaded lambdas for std::visit. */
@@ -46,6 +66,9 @@ struct Overloaded : Visitors...
 {
     using Visitors::operator()...;
 };
+
+template <typename... Visitors>
+Overloaded(Visitors...) -> Overloaded<Visitors...>;
 } // namespace
 
 void TonquillScene::build(const Records::Record &parsed, bool adding, int offset)
@@ -67,8 +90,8 @@ void TonquillScene::build(const Records::Record &parsed, bool adding, int offset
                        addAndPlace(ItemFactory::makeVectorItem(record, adding), record);
                    },
                    [&](const Records::TextBlock &record) {
-                       qCDebug(lcRecords) << "tmp1=" << record.x << record.y << record.width
-                                          << record.height;
+                       qCDebug(lcRecords)
+                           << "tmp1=" << record.x << record.y << record.width << record.height;
                        qCDebug(lcRecords) << "txt=" << record.text;
                        const QRectF rect(record.x, record.y, record.width, record.height);
                        addAndPlace(new TonquillTextBlock(adding, record.text, rect), record);
@@ -90,7 +113,9 @@ void TonquillScene::buildText(const Records::Text &record, bool adding, int offs
 {
     QFont font;
     font.setFamily(record.family);
-    font.setPointSize(record.pointSize);
+    // A size that is none comes from fields that a text of several words has shifted.
+    if (record.pointSize > 0)
+        font.setPointSize(record.pointSize);
     auto *item = new TonquillText(adding);
     item->setFont(font);
     item->setPlainText(record.text);
@@ -102,16 +127,16 @@ void TonquillScene::buildText(const Records::Text &record, bool adding, int offs
     item->setRotation(record.rotation);
     item->updateFrame();
     // A simple text gets the offset twice. That is meant.
-    place(item, record.x, record.y, offset == atCursor ? atCursor : 2 * offset);
+    place(item, record.x, record.y, offset == atCursor ? atCursor : 2.0 * offset);
     update();
 }
 
-void TonquillScene::place(QGraphicsItem *item, int x, int y, int offset)
+void TonquillScene::place(QGraphicsItem *item, int x, int y, double offset)
 {
     if (offset == atCursor)
         item->setPos(cursorPosition());
     else
-        item->setPos(double(x) + offset, double(y) + offset);
+        item->setPos(x + offset, y + offset);
 }
 
 /** The mouse cursor in scene coordinates, as the first view maps it. */

@@ -32,7 +32,7 @@ public:
     QObject *object() const { return m_object; }
 
     /** An item as the QObject that it also is, or null. */
-    static QObject *objectOf(QGraphicsItem *item) { return dynamic_cast<QObject *>(item); }
+    static QObject *objectOf(QGraphicsItem *item);
 
 private:
     QGraphicsItem *m_item = nullptr;

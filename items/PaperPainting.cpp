@@ -2,8 +2,9 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QGraphicsTextItem>
+#include <QPaintDevice>
+#include <QPaintEngine>
 #include <QPainter>
-#include <QPrinter>
 #include <QTextDocument>
 
 namespace
@@ -11,6 +12,9 @@ namespace
 /** The resolution of a desktop screen: one of its pixels is a scene unit at 100 %. */
 constexpr qreal screenDotsPerInch = 96.0;
 constexpr qreal pointsPerInch = 72.0;
+
+/** 1/96 inch in scene units, between those across and those down. */
+constexpr qreal lineInDrawing = 0.93;
 
 /** True for a picture with more dots to the inch than a screen has. */
 bool isFinePicture(const QPainter &painter)
@@ -23,7 +27,8 @@ bool isFinePicture(const QPainter &painter)
 
 bool PaperPainting::isPrinter(const QPainter &painter)
 {
-    return dynamic_cast<QPrinter *>(painter.device()) != nullptr;
+    // Asked for every item that is painted, so not by a dynamic_cast.
+    return painter.device() && painter.device()->devType() == QInternal::Printer;
 }
 
 QStyleOptionGraphicsItem PaperPainting::optionFor(const QPainter &painter,
@@ -37,6 +42,9 @@ QStyleOptionGraphicsItem PaperPainting::optionFor(const QPainter &painter,
 
 QPen PaperPainting::linePen(const QPainter &painter, const QColor &color)
 {
+    // A drawing is scaled by whoever shows it, and its lines with it.
+    if (painter.paintEngine()->type() == QPaintEngine::SVG)
+        return QPen(color, lineInDrawing);
     const bool isFine = isPrinter(painter) || isFinePicture(painter);
     QPen pen(color, isFine ? painter.device()->logicalDpiX() / screenDotsPerInch : 0.0);
     pen.setCosmetic(true);

@@ -7,22 +7,21 @@
 #include <QGraphicsSceneMouseEvent>
 #include <QPainter>
 
+#include <utility>
+
 TonquillBitmap::TonquillBitmap(const QPixmap &pixmap, int symbolId, bool adding,
                                QPixmap invertedPixmap, QGraphicsItem *parent)
-    : QGraphicsPixmapItem(parent)
+    : QGraphicsPixmapItem(pixmap, parent)
     , m_itemStatus(adding ? ItemStatus::Adding : ItemStatus::Placed)
     , m_frame(this)
     , m_symbolId(symbolId)
-    , m_invertedPixmap(std::move(invertedPixmap))
-    , m_normalPixmap(pixmap)
+    , m_otherPixmap(std::move(invertedPixmap))
 {
     setFlags(ItemIsMovable | ItemIsSelectable);
-    setInverted(false);
     setOffset(-(pixmap.width() / 2), -(pixmap.height() / 2));
     setShapeMode(BoundingRectShape);
     setSelected(adding);
     setZValue(symbolZValue);
-    m_frame.setZValue(0.0);
     m_frame.addAnchor(boundingRect().topLeft());
     setData(ItemData::symbolId, m_symbolId);
     setData(ItemData::keyword, Records::bitmapKeyword());
@@ -30,9 +29,12 @@ TonquillBitmap::TonquillBitmap(const QPixmap &pixmap, int symbolId, bool adding,
 
 void TonquillBitmap::setInverted(bool inverted)
 {
+    if (inverted == m_inverted)
+        return;
     m_inverted = inverted;
     m_frame.parentBoundsAboutToChange();
-    setPixmap(inverted ? m_invertedPixmap : m_normalPixmap);
+    const QPixmap shown = pixmap();
+    setPixmap(std::exchange(m_otherPixmap, shown));
 }
 
 QString TonquillBitmap::getParamStr()
@@ -44,12 +46,21 @@ QString TonquillBitmap::getParamStr()
 void TonquillBitmap::paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
                            QWidget *widget)
 {
-    const QStyleOptionGraphicsItem ours = PaperPainting::optionFor(*painter, *option);
+    // Only for paper is the option copied, which costs as much as drawing the glyph.
+    if (PaperPainting::isPrinter(*painter))
+        paintWith(painter, PaperPainting::optionFor(*painter, *option), widget);
+    else
+        paintWith(painter, *option, widget);
+}
+
+void TonquillBitmap::paintWith(QPainter *painter, const QStyleOptionGraphicsItem &option,
+                               QWidget *widget)
+{
     const QImage fine = GlyphDrawings::fineDrawing(pixmap(), *painter);
     if (fine.isNull())
-        QGraphicsPixmapItem::paint(painter, &ours, widget);
+        QGraphicsPixmapItem::paint(painter, &option, widget);
     else
-        paintFine(painter, fine, ours);
+        paintFine(painter, fine, option);
 }
 
 /** Draws the finer picture of the glyph in the place of the pixmap, and the selection's outline. */
@@ -64,7 +75,8 @@ void TonquillBitmap::paintFine(QPainter *painter, const QImage &drawing,
 
 bool TonquillBitmap::canInvertNow() const
 {
-    return !m_invertedPixmap.isNull() && m_itemStatus == ItemStatus::Adding;
+    const QPixmap invertedPixmap = m_inverted ? pixmap() : m_otherPixmap;
+    return !invertedPixmap.isNull() && m_itemStatus == ItemStatus::Adding;
 }
 
 void TonquillBitmap::mousePressEvent(QGraphicsSceneMouseEvent *event)

@@ -52,6 +52,7 @@ protected:
 
 private:
     bool canInvertNow() const;
+    void paintWith(QPainter *painter, const QStyleOptionGraphicsItem &option, QWidget *widget);
     void paintFine(QPainter *painter, const QImage &drawing,
                    const QStyleOptionGraphicsItem &option) const;
 
@@ -59,7 +60,6 @@ private:
     QPointF m_lastPointer;
     SelectionFrame m_frame;
     int m_symbolId;
-    QPixmap m_invertedPixmap;
-    QPixmap m_normalPixmap;
+    QPixmap m_otherPixmap; ///< the one that is not shown: the inverted one or the normal one
     bool m_inverted = false;
 };

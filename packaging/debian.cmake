@@ -9,15 +9,17 @@ set(CPACK_PACKAGE_DESCRIPTION
 on a stack of pages, exactly where you want them, and print them. Nothing is
 engraved behind your back.
 .
-The editor is the companion of a host application, with which it exchanges
-the document over a local socket.")
+There are two programs: one with files, undo and export to PDF, PNG and SVG,
+and the editor alone, which is the companion of a host application with which
+it exchanges the document over a local socket.")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION sound)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The fonts behind "Arial" and the like, and what opens a symbols reference file.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation, xdg-utils")
+# The fonts behind "Arial" and the like, what the toolkit says in other languages, and what opens a
+# symbols reference file.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation, qt6-translations-l10n, xdg-utils")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)

@@ -65,14 +65,6 @@ QString BuiltInHost::listen()
     return m_server.listen(HostMessages::serverName) ? QString() : m_server.errorString();
 }
 
-bool BuiltInHost::sendState(const QString &state)
-{
-    if (!m_editor)
-        return false;
-    m_editor->write((HostMessages::fromHost + state).toLatin1());
-    return true;
-}
-
 void BuiltInHost::onNewConnection()
 {
     while (QLocalSocket *socket = m_server.nextPendingConnection()) {

@@ -11,6 +11,7 @@ class QLocalSocket;
 /**
  * The host of the editor in the same process. It listens where a real host would and hears of
  * edits and commands by the editor's own messages; editors of other processes are turned away.
+ * It answers nothing: two answers that the editor read at once would count as a document.
  */
 class BuiltInHost : public QObject
 {
@@ -27,9 +28,6 @@ public:
      * make sure that no host is listening. The answer is empty, or says what is in the way.
      */
     QString listen();
-
-    /** Sends one of the states of HostMessages to the editor; false if it is not connected. */
-    bool sendState(const QString &state);
 
 Q_SIGNALS:
     /** The editor finished an edit. */

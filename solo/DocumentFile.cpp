@@ -1,20 +1,15 @@
 #include "DocumentFile.h"
 
+#include "AtomicFile.h"
 #include "DocumentReader.h"
 #include "ItemRecords.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace
 {
 constexpr qsizetype mostProblemsShown = 8;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("DocumentFile", text);
-}
 
 QByteArray paperLine(const Paper &paper)
 {
@@ -30,12 +25,13 @@ QString DocumentFile::Reading::problemText() const
 {
     QStringList lines;
     for (const Problem &problem : problems.first(qMin(problems.size(), mostProblemsShown))) {
-        lines.append(problem.line > 0
-                         ? tr("Line %1: %2").arg(QString::number(problem.line), problem.text)
-                         : problem.text);
+        lines.append(problem.line > 0 ? QCoreApplication::translate("DocumentFile", "Line %1: %2")
+                                            .arg(QString::number(problem.line), problem.text)
+                                      : problem.text);
     }
     if (problems.size() > mostProblemsShown)
-        lines.append(tr("… and %1 more.").arg(problems.size() - mostProblemsShown));
+        lines.append(QCoreApplication::translate("DocumentFile", "… and %1 more.")
+                         .arg(problems.size() - mostProblemsShown));
     return lines.join(u'\n');
 }
 
@@ -59,7 +55,7 @@ DocumentFile::Reading DocumentFile::load(const QString &path, const Paper &defau
     QFile file(path);
     Reading failed;
     if (QFileInfo(path).isDir())
-        failed.problems = {{0, tr("This is a folder.")}};
+        failed.problems = {{0, QCoreApplication::translate("DocumentFile", "This is a folder.")}};
     else if (!file.open(QIODevice::ReadOnly))
         failed.problems = {{0, file.errorString()}};
     return failed.problems.isEmpty() ? parse(file.readAll(), defaultPaper) : failed;
@@ -67,13 +63,5 @@ DocumentFile::Reading DocumentFile::load(const QString &path, const Paper &defau
 
 QString DocumentFile::save(const QString &path, const DocumentSnapshot &document)
 {
-    // Saving puts a new file in the place of the old one, which would be the end of a device.
-    const QFileInfo info(path);
-    if (info.exists() && !info.isFile())
-        return tr("This is not an ordinary file.");
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return file.errorString();
-    file.write(format(document));
-    return file.commit() ? QString() : file.errorString();
+    return AtomicFile::write(path, format(document));
 }

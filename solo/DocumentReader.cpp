@@ -21,11 +21,6 @@ constexpr int mostPages = 10000;
 /** No sheet is longer, in scene units: about 25 metres. */
 constexpr double longestSheet = 90000;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("DocumentReader", text);
-}
-
 int lineNumber(qsizetype index)
 {
     return int(index) + 1;

@@ -8,6 +8,8 @@
 /** Reads a document's text line by line, remembering what is wrong with it. */
 class DocumentReader
 {
+    Q_DECLARE_TR_FUNCTIONS(DocumentReader)
+
 public:
     explicit DocumentReader(const Paper &defaultPaper) { m_reading.document.paper = defaultPaper; }
 

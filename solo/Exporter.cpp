@@ -1,14 +1,16 @@
 #include "Exporter.h"
 
+#include "AtomicFile.h"
 #include "PagePicture.h"
 #include "TonquillMainWin.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QPainter>
 #include <QPrinter>
-#include <QSaveFile>
+#include <QRegularExpression>
 #include <QSvgGenerator>
 #include <QTemporaryDir>
 
@@ -17,8 +19,35 @@ namespace
 /** Pictures in an SVG file are as fine as this many dots per inch make them. */
 constexpr int svgDotsPerInch = 600;
 
+/** The resolution that texts are laid out for. */
+constexpr int screenDotsPerInch = 96;
+
 constexpr int fewestDots = 10;
 constexpr int mostDots = 2400;
+
+/** A drawing that says how large its sheet is: what the toolkit wrote goes by another resolution.
+ */
+QByteArray withSheetSize(const QByteArray &svg, const QSize &dots)
+{
+    static const QRegularExpression written(
+        QStringLiteral("<svg width=\"[^\"]*\" height=\"[^\"]*\""));
+    const auto inches = [](int length) { return QString::number(double(length) / svgDotsPerInch); };
+    const QString right = QStringLiteral("<svg width=\"%1in\" height=\"%2in\"")
+                              .arg(inches(dots.width()), inches(dots.height()));
+    return QString::fromUtf8(svg).replace(written, right).toUtf8();
+}
+
+/** A drawing that brings along the notation font, which others do not have. */
+QByteArray withNotationFont(QByteArray svg)
+{
+    const QByteArray place("<defs>");
+    QFile font(QCoreApplication::applicationDirPath() + QStringLiteral("/Musica.ttf"));
+    if (!svg.contains("Musica") || !font.open(QIODevice::ReadOnly))
+        return svg;
+    const QByteArray style = "<style>@font-face{font-family:Musica;src:url(data:font/ttf;base64," +
+                             font.readAll().toBase64() + ")}</style>";
+    return svg.insert(svg.indexOf(place) + place.size(), style);
+}
 } // namespace
 
 QString Exporter::write(const QString &path, const ExportOptions &options)
@@ -34,7 +63,9 @@ QString Exporter::write(const QString &path, const ExportOptions &options)
     const QByteArray bytes = kind == QLatin1String("pdf")   ? pdf()
                              : kind == QLatin1String("png") ? png(options)
                                                             : svg(options);
-    return bytes.isEmpty() ? tr("%1: cannot be made").arg(path) : writeBytes(path, bytes);
+    const QString error =
+        bytes.isEmpty() ? tr("The picture is too large.") : AtomicFile::write(path, bytes);
+    return error.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(path, error);
 }
 
 /** A printer writes a file of its own, so that is made aside and put in place when it is whole. */
@@ -78,22 +109,12 @@ QByteArray Exporter::svg(const ExportOptions &options)
     QBuffer buffer;
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
-    generator.setResolution(svgDotsPerInch);
+    // Letters are sized by this; pictures get as fine as the drawing is large.
+    generator.setResolution(screenDotsPerInch);
     generator.setSize(page.size());
     generator.setViewBox(QRect(QPoint(0, 0), page.size()));
     QPainter painter(&generator);
     page.paint(painter);
     painter.end();
-    return buffer.data();
-}
-
-QString Exporter::writeBytes(const QString &path, const QByteArray &bytes)
-{
-    const QFileInfo info(path);
-    if (info.exists() && !info.isFile())
-        return tr("%1: not an ordinary file").arg(path);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        return QStringLiteral("%1: %2").arg(path, file.errorString());
-    return QString();
+    return withNotationFont(withSheetSize(buffer.data(), page.size()));
 }

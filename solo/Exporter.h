@@ -30,7 +30,6 @@ private:
     QByteArray pdf();
     QByteArray png(const ExportOptions &options);
     QByteArray svg(const ExportOptions &options);
-    static QString writeBytes(const QString &path, const QByteArray &bytes);
 
     TonquillMainWin &m_window;
 };

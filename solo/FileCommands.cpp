@@ -118,10 +118,10 @@ bool FileCommands::mayShow(const QString &path, const DocumentFile::Reading &rea
     QMessageBox box(QMessageBox::Warning, tr("Tonquill"),
                     tr("“%1” can only be read in part.").arg(shown), QMessageBox::Cancel,
                     &m_window);
-    box.setInformativeText(tr("%1\n\nShow the %n item(s) that can be read? The file stays as it "
-                              "is until you save.",
-                              nullptr, int(reading.document.items.size()))
-                               .arg(reading.problemText()));
+    box.setInformativeText(
+        tr("%1\n\nShow the rest, %2 items? The file stays as it is until "
+           "you save.")
+            .arg(reading.problemText(), QString::number(reading.document.items.size())));
     const QAbstractButton *show =
         box.addButton(tr("Show What Can Be Read"), QMessageBox::AcceptRole);
     box.exec();

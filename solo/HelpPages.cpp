@@ -16,9 +16,9 @@ QString row(const QString &left, const QString &right)
     return QStringLiteral("| %1 | %2 |\n").arg(left, right);
 }
 
-QString tableHead()
+QString tableHead(const QString &left, const QString &right)
 {
-    return QStringLiteral("|   |   |\n|---|---|\n");
+    return row(left, right) + QStringLiteral("|---|---|\n");
 }
 } // namespace
 
@@ -41,7 +41,7 @@ void HelpPages::showPage(QWidget &window, const QString &title, const QString &m
 
 QString HelpPages::keysAndMouse()
 {
-    return QStringLiteral("## %1\n\n").arg(tr("Mouse")) + tableHead() +
+    return tableHead(tr("Mouse"), tr("Effect")) +
            row(tr("A palette button, then a click"), tr("places an item on the page")) +
            row(tr("A second click"), tr("fixes the other end of a staff, tie, bracket or line")) +
            row(tr("Right button held while placing"), tr("turns a note over")) +
@@ -51,8 +51,8 @@ QString HelpPages::keysAndMouse()
            row(tr("Double click a text block"), tr("types in it")) +
            row(tr("Right click a text"), tr("changes its words, font, colour and angle")) +
            row(tr("Right click a text block"), tr("changes its size of type")) +
-           row(tr("Ctrl and the wheel"), tr("zooms at the pointer")) +
-           QStringLiteral("\n## %1\n\n").arg(tr("Keys")) + tableHead() +
+           row(tr("Ctrl and the wheel"), tr("zooms at the pointer")) + QStringLiteral("\n\n") +
+           tableHead(tr("Key"), tr("Effect")) +
            row(tr("Ctrl, held"), tr("the note buttons insert rests")) +
            row(tr("Arrow keys"), tr("move the selection by a little")) +
            row(tr("Delete, Backspace"), tr("delete the selection")) +

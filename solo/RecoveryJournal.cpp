@@ -1,11 +1,11 @@
 #include "RecoveryJournal.h"
 
+#include "AtomicFile.h"
 #include "DocumentFile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QUrl>
 
 namespace
@@ -20,12 +20,9 @@ RecoveryJournal::RecoveryJournal(const QString &folder)
 bool RecoveryJournal::write(const DocumentSnapshot &document, const QString &path)
 {
     QDir().mkpath(QFileInfo(m_file).path());
-    QSaveFile file(m_file);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(header + QUrl::toPercentEncoding(path) + '\n');
-    file.write(DocumentFile::format(document));
-    return file.commit();
+    return AtomicFile::write(m_file, header + QUrl::toPercentEncoding(path) + '\n' +
+                                         DocumentFile::format(document))
+        .isEmpty();
 }
 
 std::optional<RecoveryJournal::Found> RecoveryJournal::find(const Paper &defaultPaper) const

@@ -5,6 +5,7 @@
 #include "Exporter.h"
 #include "SingleInstance.h"
 #include "SoloWindow.h"
+#include "Translations.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -90,9 +91,11 @@ int SoloApplication::run(int argc, char *argv[])
     else if (!hasDisplay())
         return fail(QStringLiteral("there is no display; --export works without one"));
     QApplication application(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("Tonquill"));
     QCoreApplication::setApplicationName(QStringLiteral("tonquill-solo"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TONQUILL_VERSION));
     QGuiApplication::setApplicationDisplayName(QString());
+    installTranslations(application);
     const SoloArguments arguments = readArguments();
     return arguments.exportTo.isEmpty() ? runWindow(arguments) : exportFile(arguments);
 }
@@ -160,6 +163,7 @@ int SoloApplication::runWindow(const SoloArguments &arguments)
                          if (!path.isEmpty())
                              solo.files().openFile(path);
                      });
+    QObject::connect(&solo, &SoloWindow::finished, [] { QCoreApplication::exit(0); });
     solo.show();
     // Questions wait until the window is there.
     QTimer::singleShot(0, &solo, [&solo, &arguments, &file, &hostError] {

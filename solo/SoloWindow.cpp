@@ -1,10 +1,8 @@
 #include "SoloWindow.h"
 
-#include "HostMessages.h"
 #include "MenuBar.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QEvent>
 #include <QMessageBox>
 
@@ -54,22 +52,21 @@ void SoloWindow::show()
 void SoloWindow::undo()
 {
     if (!m_session.edits().undo())
-        sayNothingLeft(HostMessages::stateNothingToUndo, QStringLiteral("Undo"),
-                       QStringLiteral("Nothing to undo"));
+        sayNothingLeft(QStringLiteral("Undo"), QStringLiteral("Nothing to undo"));
 }
 
 void SoloWindow::redo()
 {
     if (!m_session.edits().redo())
-        sayNothingLeft(HostMessages::stateNothingToRedo, QStringLiteral("Redo"),
-                       QStringLiteral("Nothing to redo"));
+        sayNothingLeft(QStringLiteral("Redo"), QStringLiteral("Nothing to redo"));
 }
 
-/** The editor shows the box when its host says so; without a host the box is shown here. */
-void SoloWindow::sayNothingLeft(const QString &state, const QString &title, const QString &text)
+/** The box that the editor shows when a host says so. */
+void SoloWindow::sayNothingLeft(const QString &title, const QString &text)
 {
-    if (!m_host.sendState(state))
-        QMessageBox::warning(&m_window, title, text);
+    auto *box = new QMessageBox(QMessageBox::Warning, title, text, QMessageBox::Ok, &m_window);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
 }
 
 void SoloWindow::refreshTitle()
@@ -87,7 +84,7 @@ void SoloWindow::quit()
     if (m_files.mayLeave()) {
         m_session.close();
         m_window.hide();
-        QCoreApplication::exit(0);
+        Q_EMIT finished();
     }
     m_leaving = false;
 }

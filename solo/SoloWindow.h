@@ -32,17 +32,21 @@ public:
     /** Shows the window in front of the others. */
     void show();
 
-    /** Asks about unsaved changes; then the program ends, unless the user rather goes on. */
+    /** Asks about unsaved changes; then finished() is emitted, unless the user rather goes on. */
     void quit();
 
     void undo();
     void redo();
 
+Q_SIGNALS:
+    /** The window was closed for good. */
+    void finished();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void sayNothingLeft(const QString &state, const QString &title, const QString &text);
+    void sayNothingLeft(const QString &title, const QString &text);
     void refreshTitle();
 
     TonquillMainWin m_window;

@@ -2,6 +2,556 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>AtomicFile</name>
+    <message>
+        <source>This is not an ordinary file.</source>
+        <translation>Das ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>Not everything could be written. Is the disk full?</source>
+        <translation>Es konnte nicht alles geschrieben werden. Ist der Datenträger voll?</translation>
+    </message>
+</context>
+<context>
+    <name>BuiltInHost</name>
+    <message>
+        <source>%1 is in the way.</source>
+        <translation>%1 ist im Weg.</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentFile</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>… and %1 more.</source>
+        <translation>… und %1 weitere.</translation>
+    </message>
+    <message>
+        <source>This is a folder.</source>
+        <translation>Das ist ein Ordner.</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentReader</name>
+    <message>
+        <source>Some characters are not UTF-8.</source>
+        <translation>Einige Zeichen sind nicht UTF-8.</translation>
+    </message>
+    <message>
+        <source>This is not a Tonquill document.</source>
+        <translation>Das ist kein Tonquill-Dokument.</translation>
+    </message>
+    <message>
+        <source>The document was written by a newer version of Tonquill (format %1; this program knows %2).</source>
+        <translation>Das Dokument wurde von einer neueren Version von Tonquill geschrieben (Format %1; dieses Programm kennt %2).</translation>
+    </message>
+    <message>
+        <source>The document breaks off here.</source>
+        <translation>Das Dokument bricht hier ab.</translation>
+    </message>
+    <message>
+        <source>There is more behind the document&apos;s end.</source>
+        <translation>Hinter dem Ende des Dokuments steht noch etwas.</translation>
+    </message>
+    <message>
+        <source>The end of this text block is missing.</source>
+        <translation>Das Ende dieses Textblocks fehlt.</translation>
+    </message>
+    <message>
+        <source>The number of pages cannot be right.</source>
+        <translation>Die Zahl der Seiten kann nicht stimmen.</translation>
+    </message>
+    <message>
+        <source>The size of the paper cannot be right.</source>
+        <translation>Die Größe des Papiers kann nicht stimmen.</translation>
+    </message>
+    <message>
+        <source>This record cannot be read.</source>
+        <translation>Dieser Eintrag ist nicht lesbar.</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentSession</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Unbenannt</translation>
+    </message>
+</context>
+<context>
+    <name>Exporter</name>
+    <message>
+        <source>%1: the name must end in .pdf, .png or .svg</source>
+        <translation>%1: Der Name muss auf .pdf, .png oder .svg enden</translation>
+    </message>
+    <message>
+        <source>there is no page %1, only 1 to %2</source>
+        <translation>es gibt keine Seite %1, nur 1 bis %2</translation>
+    </message>
+    <message>
+        <source>the resolution must be between %1 and %2</source>
+        <translation>die Auflösung muss zwischen %1 und %2 liegen</translation>
+    </message>
+    <message>
+        <source>The picture is too large.</source>
+        <translation>Das Bild ist zu groß.</translation>
+    </message>
+</context>
+<context>
+    <name>FileCommands</name>
+    <message>
+        <source>Tonquill</source>
+        <translation>Tonquill</translation>
+    </message>
+    <message>
+        <source>Save the changes to “%1”?</source>
+        <translation>Die Änderungen an „%1“ speichern?</translation>
+    </message>
+    <message>
+        <source>Without saving they are lost.</source>
+        <translation>Ohne Speichern gehen sie verloren.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Tonquill documents (*.tonquill);;All files (*)</source>
+        <translation>Tonquill-Dokumente (*.tonquill);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be opened.</source>
+        <translation>„%1“ kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>“%1” can only be read in part.</source>
+        <translation>„%1“ ist nur zum Teil lesbar.</translation>
+    </message>
+    <message>
+        <source>%1
+
+Show the rest, %2 items? The file stays as it is until you save.</source>
+        <translation>%1
+
+Den Rest zeigen, %2 Elemente? Die Datei bleibt, wie sie ist, bis Sie speichern.</translation>
+    </message>
+    <message>
+        <source>Show What Can Be Read</source>
+        <translation>Lesbares zeigen</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>“%1” could not be saved.</source>
+        <translation>„%1“ konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>%1
+The file is as it was before.</source>
+        <translation>%1
+Die Datei ist, wie sie vorher war.</translation>
+    </message>
+    <message>
+        <source>Export as PDF</source>
+        <translation>Als PDF exportieren</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>The PDF could not be written.</source>
+        <translation>Das PDF konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>a document without a name</source>
+        <translation>ein Dokument ohne Namen</translation>
+    </message>
+    <message>
+        <source>Tonquill ended unexpectedly. Recover the unsaved changes?</source>
+        <translation>Tonquill wurde unerwartet beendet. Die ungespeicherten Änderungen wiederherstellen?</translation>
+    </message>
+    <message>
+        <source>%1, %2.
+The file itself stays as it is until you save.</source>
+        <translation>%1, %2.
+Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+</context>
+<context>
+    <name>HelpPages</name>
+    <message>
+        <source>Mouse</source>
+        <translation>Maus</translation>
+    </message>
+    <message>
+        <source>Effect</source>
+        <translation>Wirkung</translation>
+    </message>
+    <message>
+        <source>A palette button, then a click</source>
+        <translation>Ein Knopf der Palette, dann ein Klick</translation>
+    </message>
+    <message>
+        <source>places an item on the page</source>
+        <translation>setzt ein Element auf die Seite</translation>
+    </message>
+    <message>
+        <source>A second click</source>
+        <translation>Ein zweiter Klick</translation>
+    </message>
+    <message>
+        <source>fixes the other end of a staff, tie, bracket or line</source>
+        <translation>legt das andere Ende von System, Bogen, Klammer oder Linie fest</translation>
+    </message>
+    <message>
+        <source>Right button held while placing</source>
+        <translation>Rechte Taste beim Setzen gehalten</translation>
+    </message>
+    <message>
+        <source>turns a note over</source>
+        <translation>dreht eine Note um</translation>
+    </message>
+    <message>
+        <source>Drag on empty paper</source>
+        <translation>Ziehen auf leerem Papier</translation>
+    </message>
+    <message>
+        <source>selects what lies inside</source>
+        <translation>wählt aus, was darin liegt</translation>
+    </message>
+    <message>
+        <source>Drag an item</source>
+        <translation>Ein Element ziehen</translation>
+    </message>
+    <message>
+        <source>moves the selection</source>
+        <translation>bewegt die Auswahl</translation>
+    </message>
+    <message>
+        <source>Drag a green anchor</source>
+        <translation>Einen grünen Anker ziehen</translation>
+    </message>
+    <message>
+        <source>stretches a figure or a text block</source>
+        <translation>dehnt eine Figur oder einen Textblock</translation>
+    </message>
+    <message>
+        <source>Double click a text block</source>
+        <translation>Doppelklick auf einen Textblock</translation>
+    </message>
+    <message>
+        <source>types in it</source>
+        <translation>schreibt darin</translation>
+    </message>
+    <message>
+        <source>Right click a text</source>
+        <translation>Rechtsklick auf einen Text</translation>
+    </message>
+    <message>
+        <source>changes its words, font, colour and angle</source>
+        <translation>ändert Wortlaut, Schrift, Farbe und Winkel</translation>
+    </message>
+    <message>
+        <source>Right click a text block</source>
+        <translation>Rechtsklick auf einen Textblock</translation>
+    </message>
+    <message>
+        <source>changes its size of type</source>
+        <translation>ändert die Schriftgröße</translation>
+    </message>
+    <message>
+        <source>Ctrl and the wheel</source>
+        <translation>Strg und das Rad</translation>
+    </message>
+    <message>
+        <source>zooms at the pointer</source>
+        <translation>vergrößert am Zeiger</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Taste</translation>
+    </message>
+    <message>
+        <source>Ctrl, held</source>
+        <translation>Strg, gehalten</translation>
+    </message>
+    <message>
+        <source>the note buttons insert rests</source>
+        <translation>die Notenknöpfe setzen Pausen</translation>
+    </message>
+    <message>
+        <source>Arrow keys</source>
+        <translation>Pfeiltasten</translation>
+    </message>
+    <message>
+        <source>move the selection by a little</source>
+        <translation>bewegen die Auswahl ein wenig</translation>
+    </message>
+    <message>
+        <source>Delete, Backspace</source>
+        <translation>Entf, Rücktaste</translation>
+    </message>
+    <message>
+        <source>delete the selection</source>
+        <translation>löschen die Auswahl</translation>
+    </message>
+    <message>
+        <source>Ctrl+C, Ctrl+V</source>
+        <translation>Strg+C, Strg+V</translation>
+    </message>
+    <message>
+        <source>copy the selection; paste everything that was copied so far</source>
+        <translation>kopieren die Auswahl; fügen alles bisher Kopierte ein</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>one more item like the last one</source>
+        <translation>noch ein Element wie das letzte</translation>
+    </message>
+    <message>
+        <source>F5</source>
+        <translation>F5</translation>
+    </message>
+    <message>
+        <source>quick text: letters typed on the page open a text block</source>
+        <translation>Schnelltext: Tippen auf der Seite öffnet einen Textblock</translation>
+    </message>
+    <message>
+        <source>Ctrl+Z, Ctrl+Shift+Z</source>
+        <translation>Strg+Z, Strg+Umschalt+Z</translation>
+    </message>
+    <message>
+        <source>undo and redo</source>
+        <translation>rückgängig machen und wiederholen</translation>
+    </message>
+    <message>
+        <source>Ctrl+A</source>
+        <translation>Strg+A</translation>
+    </message>
+    <message>
+        <source>select everything</source>
+        <translation>alles auswählen</translation>
+    </message>
+    <message>
+        <source>Ctrl++, Ctrl+-, Ctrl+0, Ctrl+9</source>
+        <translation>Strg++, Strg+-, Strg+0, Strg+9</translation>
+    </message>
+    <message>
+        <source>zoom in, zoom out, 100 %, fit width</source>
+        <translation>größer, kleiner, 100 %, Seitenbreite</translation>
+    </message>
+    <message>
+        <source>Ctrl+N, Ctrl+O, Ctrl+S</source>
+        <translation>Strg+N, Strg+O, Strg+S</translation>
+    </message>
+    <message>
+        <source>new, open, save</source>
+        <translation>neu, öffnen, speichern</translation>
+    </message>
+    <message>
+        <source>Ctrl+E, Ctrl+P, Ctrl+Q</source>
+        <translation>Strg+E, Strg+P, Strg+Q</translation>
+    </message>
+    <message>
+        <source>export as PDF, print, quit</source>
+        <translation>als PDF exportieren, drucken, beenden</translation>
+    </message>
+    <message>
+        <source>Keys and Mouse</source>
+        <translation>Tasten und Maus</translation>
+    </message>
+    <message>
+        <source>The Musica Letters</source>
+        <translation>Die Buchstaben der Musica</translation>
+    </message>
+    <message>
+        <source>About Tonquill</source>
+        <translation>Über Tonquill</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Tonquill %1&lt;/h3&gt;&lt;p&gt;A sketch pad for music notation: symbols laid by hand, exactly where you want them.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Tonquill %1&lt;/h3&gt;&lt;p&gt;Ein Skizzenblock für Notenschrift: Zeichen von Hand gesetzt, genau dort, wo man sie will.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>InsertMenu</name>
+    <message>
+        <source>Whole rest</source>
+        <translation>Ganze Pause</translation>
+    </message>
+    <message>
+        <source>Half rest</source>
+        <translation>Halbe Pause</translation>
+    </message>
+    <message>
+        <source>Quarter rest</source>
+        <translation>Viertelpause</translation>
+    </message>
+    <message>
+        <source>Eighth rest</source>
+        <translation>Achtelpause</translation>
+    </message>
+    <message>
+        <source>16th rest</source>
+        <translation>16tel-Pause</translation>
+    </message>
+    <message>
+        <source>32nd rest</source>
+        <translation>32stel-Pause</translation>
+    </message>
+    <message>
+        <source>64th rest</source>
+        <translation>64stel-Pause</translation>
+    </message>
+    <message>
+        <source>128th rest</source>
+        <translation>128stel-Pause</translation>
+    </message>
+    <message>
+        <source>Rests</source>
+        <translation>Pausen</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBar</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Neu</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Speichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>&amp;Export as PDF…</source>
+        <translation>Als PDF &amp;exportieren …</translation>
+    </message>
+    <message>
+        <source>Print Pre&amp;view…</source>
+        <translation>Druck&amp;vorschau …</translation>
+    </message>
+    <message>
+        <source>Page Set&amp;up…</source>
+        <translation>Seite ein&amp;richten …</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Drucken …</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>&amp;Größer</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>&amp;Kleiner</translation>
+    </message>
+    <message>
+        <source>&amp;100 %</source>
+        <translation>&amp;100 %</translation>
+    </message>
+    <message>
+        <source>Fit &amp;Width</source>
+        <translation>Seiten&amp;breite</translation>
+    </message>
+    <message>
+        <source>&amp;Sheet Music Toolbar</source>
+        <translation>Werkzeugleiste &amp;Noten</translation>
+    </message>
+    <message>
+        <source>&amp;Tablature Toolbar</source>
+        <translation>Werkzeugleiste &amp;Tabulatur</translation>
+    </message>
+    <message>
+        <source>&amp;Insert</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Keys and Mouse</source>
+        <translation>&amp;Tasten und Maus</translation>
+    </message>
+    <message>
+        <source>The &amp;Musica Letters</source>
+        <translation>Die Buchstaben der &amp;Musica</translation>
+    </message>
+    <message>
+        <source>&amp;About Tonquill</source>
+        <translation>Ü&amp;ber Tonquill</translation>
+    </message>
+</context>
+<context>
     <name>PaletteTable</name>
     <message>
         <source>Bring Trackwright to the front</source>
@@ -158,6 +708,68 @@
     <message>
         <source>Cut time</source>
         <translation>Allabreve-Takt</translation>
+    </message>
+</context>
+<context>
+    <name>SoloApplication</name>
+    <message>
+        <source>A sketch pad for music notation, with files of its own.</source>
+        <translation>Ein Skizzenblock für Notenschrift, mit eigenen Dateien.</translation>
+    </message>
+    <message>
+        <source>Write FILE as PDF, PNG or SVG, told by the suffix of &lt;out&gt;, and show no window.</source>
+        <translation>DATEI als PDF, PNG oder SVG schreiben, nach der Endung von &lt;out&gt;, und kein Fenster zeigen.</translation>
+    </message>
+    <message>
+        <source>The page of a PNG or SVG picture; the first if not given.</source>
+        <translation>Die Seite eines PNG- oder SVG-Bildes; ohne Angabe die erste.</translation>
+    </message>
+    <message>
+        <source>Dots per inch of a PNG picture; 150 if not given.</source>
+        <translation>Punkte je Zoll eines PNG-Bildes; ohne Angabe 150.</translation>
+    </message>
+    <message>
+        <source>Open a copy of &lt;file&gt; if the program was never started before.</source>
+        <translation>Eine Kopie von &lt;file&gt; öffnen, wenn das Programm noch nie gestartet wurde.</translation>
+    </message>
+    <message>
+        <source>The document to open.</source>
+        <translation>Das Dokument, das geöffnet wird.</translation>
+    </message>
+    <message>
+        <source>--export needs a document</source>
+        <translation>--export braucht ein Dokument</translation>
+    </message>
+    <message>
+        <source>Tonquill</source>
+        <translation>Tonquill</translation>
+    </message>
+    <message>
+        <source>The toolbar&apos;s undo and redo cannot be used; the menu&apos;s can. %1</source>
+        <translation>Rückgängig und Wiederholen gehen nicht von der Werkzeugleiste, wohl aber vom Menü aus. %1</translation>
+    </message>
+    <message>
+        <source>another Tonquill is running and does not answer</source>
+        <translation>ein anderes Tonquill läuft und antwortet nicht</translation>
+    </message>
+    <message>
+        <source>A host for Tonquill is running already.</source>
+        <translation>Ein Wirtsprogramm für Tonquill läuft schon.</translation>
+    </message>
+    <message>
+        <source>It keeps the document and its history. Tonquill can open as its editor, without files and menus of its own.</source>
+        <translation>Es führt das Dokument und dessen Verlauf. Tonquill kann sich als sein Editor öffnen, ohne eigene Dateien und Menüs.</translation>
+    </message>
+    <message>
+        <source>Open as Its Editor</source>
+        <translation>Als dessen Editor öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>SoloWindow</name>
+    <message>
+        <source>%1[*] – Tonquill</source>
+        <translation>%1[*] – Tonquill</translation>
     </message>
 </context>
 <context>

@@ -27,7 +27,8 @@ SelectionFrame::SelectionFrame(QGraphicsItem *parent)
 
 void SelectionFrame::setAnchors(const QList<QPointF> &anchors)
 {
-    m_anchors = anchors;
+    m_anchors.clear();
+    m_anchors.append(anchors.constData(), anchors.size());
 }
 
 void SelectionFrame::addAnchor(QPointF point)

@@ -2,6 +2,7 @@
 
 #include <QGraphicsItem>
 #include <QList>
+#include <QVarLengthArray>
 
 /**
  * The anchors of one document item, held by that item as a member and shown as its child.
@@ -18,7 +19,7 @@ public:
     /** The frame of `parent`, with no anchors yet. */
     explicit SelectionFrame(QGraphicsItem *parent);
 
-    const QList<QPointF> &anchors() const { return m_anchors; }
+    QList<QPointF> anchors() const { return QList<QPointF>(m_anchors.cbegin(), m_anchors.cend()); }
 
     /** Replaces all anchors. */
     void setAnchors(const QList<QPointF> &anchors);
@@ -53,5 +54,6 @@ protected:
     void mouseRelaseEvent(QGraphicsSceneMouseEvent *event);
 
 private:
-    QList<QPointF> m_anchors;
+    /** Kept within the frame: no item has more than two, and there are as many frames as items. */
+    QVarLengthArray<QPointF, 2> m_anchors;
 };

@@ -37,6 +37,13 @@ void appendStaffLines(QList<QLine> &lines, double left, double right, double top
     }
 }
 
+/** A host's absurd points must not make a rectangle with an edge that no int holds. */
+int boundedInt(double value)
+{
+    constexpr int farAway = 1 << 29;
+    return qBound(-farAway, truncatedToInt(value), farAway);
+}
+
 /** Rounding noise must not cost a truncated coordinate a whole unit. */
 double withoutNoise(double value)
 {
@@ -132,8 +139,7 @@ VectorShapes::Tie VectorShapes::tie(QPointF start, QPointF end)
     path.arcTo(QRectF(left, top, size, size), endAngle, tieAngle);
 
     Tie result;
-    result.rect = QRect(truncatedToInt(left), truncatedToInt(top), truncatedToInt(size),
-                        truncatedToInt(size));
+    result.rect = QRect(boundedInt(left), boundedInt(top), boundedInt(size), boundedInt(size));
     result.startAngle = truncatedToInt(endAngle * 16.0);
     result.spanAngle = static_cast<int>(tieAngle) * 16;
     result.bounds = path.boundingRect();

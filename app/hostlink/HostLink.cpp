@@ -104,13 +104,9 @@ void HostLink::showBox(const QString &title, const QString &text)
 
 void HostLink::receiveDocument(const QString &payload)
 {
-    TonquillScene &scene = *m_window.scene;
-    scene.clearScene();
+    m_window.scene->clearScene();
     // A page-count line builds nothing: pages come and go with the user's page controls only.
-    for (const QStringView record : QStringView(payload).tokenize(u'|')) {
-        if (!record.isEmpty() && record != QStringView(u"\n"))
-            scene.constructItem(record.toString(), false, 0);
-    }
+    m_window.scene->constructDocument(payload);
 }
 
 void HostLink::pause()
@@ -167,8 +163,7 @@ void HostLink::sendNext()
         return;
     const Outbox::Message next = m_outbox.takeFirst();
     const QString text = next.isDocument() ? m_window.scene->notifyTW() : next.command;
-    const QString message = HostMessages::toHost + text;
-    qCDebug(lcRecords).noquote() << "notifyTW " << message;
+    qCDebug(lcRecords).noquote() << "notifyTW " << HostMessages::toHost + text;
     // Latin-1 keeps an accented letter; what it lacks becomes a question mark.
-    m_window.socket.write(message.toLatin1());
+    m_window.socket.write(HostMessages::toHost.toLatin1() + text.toLatin1());
 }

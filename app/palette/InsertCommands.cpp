@@ -27,12 +27,11 @@ TonquillBitmap *InsertCommands::bitmap(int id, bool adding, bool withInverted)
 {
     if (scene().isNewItemIsAdding())
         return nullptr;
-    const QPixmap image = m_window.symbols.value(id);
     // The inverted form of a rest is the next shorter note. That pairing is meant. No id follows
     // the largest int.
     const bool hasNext = withInverted && id < std::numeric_limits<int>::max();
-    const QPixmap inverted = hasNext ? m_window.symbols.value(id + 1) : QPixmap();
-    auto *item = new TonquillBitmap(image, id, adding, inverted);
+    auto *item = new TonquillBitmap(m_window.symbols.value(id), id, adding,
+                                    hasNext ? m_window.symbols.value(id + 1) : QPixmap());
     scene().addNewItem(item);
     return item;
 }

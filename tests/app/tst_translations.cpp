@@ -14,18 +14,20 @@ private Q_SLOTS:
     void speaksTheUsersLanguage_data();
     void speaksTheUsersLanguage();
     void knowsAllNamesOfThePalette();
+    void hasTheToolkitSpeakTheSameLanguage_data();
+    void hasTheToolkitSpeakTheSameLanguage();
 
 private:
-    /** What a name of the palette is called after a start in this language. */
-    static QString nameIn(const QLocale &locale, const char *name);
+    /** What a text of this context is after a start in this language. */
+    static QString textIn(const QLocale &locale, const char *context, const char *text);
 };
 
-QString TranslationsTest::nameIn(const QLocale &locale, const char *name)
+QString TranslationsTest::textIn(const QLocale &locale, const char *context, const char *text)
 {
     QCoreApplication *application = QCoreApplication::instance();
     QLocale::setDefault(locale);
     installTranslations(*application);
-    const QString result = PaletteEntry{0, nullptr, "", name}.translatedName();
+    const QString result = QCoreApplication::translate(context, text);
     qDeleteAll(application->findChildren<QTranslator *>());
     return result;
 }
@@ -50,7 +52,7 @@ void TranslationsTest::speaksTheUsersLanguage()
 {
     QFETCH(QString, locale);
     QFETCH(QString, expected);
-    QCOMPARE(nameIn(QLocale(locale), "Tie"), expected);
+    QCOMPARE(textIn(QLocale(locale), "PaletteTable", "Tie"), expected);
 }
 
 /** Terms such as Tempo are the same in both languages, so what counts is that there is an entry. */
@@ -79,6 +81,23 @@ void TranslationsTest::knowsAllNamesOfThePalette()
     }
     // 8 + 4 + 20 buttons, 2 clefs, 3 accidentals, 2 time signatures.
     QCOMPARE(known, 8 + 4 + 20 + 2 + 3 + 2);
+}
+
+void TranslationsTest::hasTheToolkitSpeakTheSameLanguage_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("German") << "de_DE"
+                            << "Abbrechen";
+    QTest::newRow("a language that only the toolkit has") << "fi_FI"
+                                                          << "Cancel";
+}
+
+void TranslationsTest::hasTheToolkitSpeakTheSameLanguage()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, expected);
+    QCOMPARE(textIn(QLocale(locale), "QPlatformTheme", "Cancel"), expected);
 }
 
 TONQUILL_TEST_MAIN(TranslationsTest)

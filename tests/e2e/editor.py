@@ -32,8 +32,11 @@ class Editor:
 
     def button(self, identifier):
         """The middle of a toolbar button, in the window."""
-        rect = self._layout["buttons"][str(identifier)]
-        return rect["x"] + rect["width"] // 2, rect["y"] + rect["height"] // 2
+        return _middle(self._layout["buttons"][str(identifier)])
+
+    def control(self, object_name):
+        """The middle of one of the page controls below the view, in the window."""
+        return _middle(self._layout["controls"][object_name])
 
     def at(self, point):
         """The point of the window that shows this point of the page."""
@@ -65,3 +68,7 @@ class Editor:
         """What the window shows of the page up to this far from a point."""
         x, y = point
         return self.picture(x - reach, y - reach, x + reach, y + reach)
+
+
+def _middle(rect):
+    return rect["x"] + rect["width"] // 2, rect["y"] + rect["height"] // 2

@@ -42,6 +42,17 @@ void addButtons(QJsonObject &buttons, const TonquillMainWin &window, const QStri
     }
 }
 
+/** The page controls below the view, by their object names. */
+QJsonObject pageControls(const TonquillMainWin &window)
+{
+    QJsonObject controls;
+    for (const char *name : {"pb_insertPage", "pb_deletePAge", "sb_page"}) {
+        const QString objectName = QString::fromLatin1(name);
+        controls.insert(objectName, toJson(rectInWindow(*window.findChild<QWidget *>(objectName))));
+    }
+    return controls;
+}
+
 /**
  * Where things are inside the window. A point of the viewport plus "scene" is the
  * scene's point there.
@@ -58,7 +69,8 @@ QJsonObject layout(const TonquillMainWin &window)
     return {{QStringLiteral("window"), toJson({QPoint(0, 0), window.size()})},
             {QStringLiteral("viewport"), toJson(rectInWindow(*view->viewport()))},
             {QStringLiteral("scene"), QJsonArray{origin.x(), origin.y()}},
-            {QStringLiteral("buttons"), buttons}};
+            {QStringLiteral("buttons"), buttons},
+            {QStringLiteral("controls"), pageControls(window)}};
 }
 
 } // namespace

@@ -28,21 +28,33 @@ class InstalledTree:
         }
 
     def program_runs(self, name, host_program):
-        """Starts the program by its link; true if it meets a host and has its font.
+        """Whether the program does its work when it is started by its link, and has its font.
 
         It says what folder it takes for its own, which has to be the one behind the link.
         """
+        works, output = self._exports() if name == "tonquill-solo" else self._greets(host_program)
+        own_folder = (self.prefix / "lib/tonquill").resolve()
+        return works and 'add font : 0 QList("Musica")' in output and f'"{own_folder}"' in output
+
+    def _greets(self, host_program):
+        """Whether the editor sends its document to a host, and what it says meanwhile."""
         with Workbench() as workbench:
             host = Host(workbench, host_program)
-            workbench.start([self.prefix / "bin" / name], log="output.log")
+            workbench.start([self.prefix / "bin/tonquill"], log="output.log")
             (message,) = host.wait_for("received")
             output = workbench.log("output.log")
-        own_folder = (self.prefix / "lib/tonquill").resolve()
-        return (
-            message["text"] == TO_HOST + "tonquill_pagecount 1\n"
-            and 'add font : 0 QList("Musica")' in output
-            and f'"{own_folder}"' in output
-        )
+        return message["text"] == TO_HOST + "tonquill_pagecount 1\n", output
+
+    def _exports(self):
+        """Whether the program with files makes a PDF file of one, and what it says meanwhile."""
+        with Workbench() as workbench:
+            document, pdf = workbench.folder / "empty.tonquill", workbench.folder / "empty.pdf"
+            document.write_text("tonquill_pagecount 1\n")
+            result = workbench.run(
+                [self.prefix / "bin/tonquill-solo", "--export", pdf, document],
+                environment={"QT_LOGGING_RULES": "tonquill.debug=true"},
+            )
+            return pdf.read_bytes().startswith(b"%PDF-"), result.stderr
 
 
 class InstalledTreeCase(unittest.TestCase):

@@ -21,6 +21,12 @@ class FileTypeTest(InstalledTreeCase):
         self.assertIn(f"50:{MIME_TYPE}:*.tonquill", globs)
         self.assertIn(f"{MIME_TYPE} text/plain", self.share("mime/subclasses").read_text())
 
+    def test_first_line_tells_the_type(self):
+        subprocess.run([tool("update-mime-database"), self.share("mime")], check=True)
+        magic = self.share("mime/magic").read_bytes()
+        self.assertIn(f":{MIME_TYPE}]".encode(), magic)
+        self.assertIn(b"tonquill-document ", magic)
+
     def test_type_has_its_icon(self):
         icons = self.share("mime/icons")
         subprocess.run([tool("update-mime-database"), self.share("mime")], check=True)

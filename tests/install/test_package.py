@@ -46,6 +46,10 @@ class PackageTest(unittest.TestCase):
             with self.subTest(program=name):
                 self.assertTrue(tree.program_runs(name, HOST))
 
+    def test_user_guide_names_the_file(self):
+        guide = pathlib.Path(__file__).resolve().parents[2] / "docs/user-guide.md"
+        self.assertIn(f"build/package/{self.package.name}\n", guide.read_text(encoding="utf-8"))
+
     def test_nothing_lies_outside_usr(self):
         self.assertEqual([path.name for path in self.root.iterdir()], ["usr"])
 

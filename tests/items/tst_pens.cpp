@@ -63,6 +63,8 @@ private Q_SLOTS:
     void linesAreAsWideOnAnyPaper();
     void numeralsAreAsLargeOnAnyPaper_data();
     void numeralsAreAsLargeOnAnyPaper();
+    void selectionIsNotPrinted_data();
+    void selectionIsNotPrinted();
 
 private:
     static void addFigures();
@@ -219,6 +221,34 @@ void PensTest::numeralsAreAsLargeOnAnyPaper()
         QVERIFY2(std::abs(width - units.width()) <= 1.0, qPrintable(told));
         QVERIFY2(std::abs(height - units.height()) <= 1.0, qPrintable(told));
     }
+}
+
+void PensTest::selectionIsNotPrinted_data()
+{
+    QTest::addColumn<QString>("record");
+    QTest::newRow("bitmap") << "tonquill_bitmap 2 300 300 0";
+    QTest::newRow("text") << "tonquill_text 300 300 0 0 Allegro Arial 12 ff000000 0";
+    QTest::newRow("block")
+        << "tonquill_textblock_begin 300 300 60 40\nverse\ntonquill_textblock_end";
+    QTest::newRow("time signature") << "tonquill_timesig 300 300 3 4";
+    QTest::newRow("grand staff") << "tonquill_grandstaff 300 300 0 0 60 40";
+    QTest::newRow("line") << "tonquill_interactiveline 300 300 0 0 60 40";
+    QTest::newRow("tablature") << "tonquill_linetab 300 300 0 0 60 40";
+    QTest::newRow("tie") << "tonquill_notetie 300 300 0 0 60 0";
+    QTest::newRow("triplet") << "tonquill_triplet 300 300 0 0 60 0";
+}
+
+/** A selected item shows its anchors on screen, and prints as if it were not selected. */
+void PensTest::selectionIsNotPrinted()
+{
+    QFETCH(QString, record);
+    m_window.scene->constructItem(record, false, 0);
+    const QRectF area(270, 260, 110, 100);
+    const QImage plain = printed(area, 300);
+    QVERIFY(!inkOf(plain).isEmpty());
+    ItemProbe::onlyItem(*m_window.scene)->setSelected(true);
+    QVERIFY(ItemProbe::pixelsOf(viewed(area, 1.0), Qt::green) >= 100);
+    QCOMPARE(printed(area, 300), plain);
 }
 
 TONQUILL_TEST_MAIN(PensTest)

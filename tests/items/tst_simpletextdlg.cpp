@@ -47,6 +47,7 @@ private Q_SLOTS:
     void emptyTextIsMadeAndRecorded();
     void contextMenuEditsTheText();
     void cancelledEditChangesNothing();
+    void editingTakesTheAngleAsItIs_data();
     void editingTakesTheAngleAsItIs();
     void textThatGoesMeanwhileIsNotEdited();
 
@@ -120,8 +121,10 @@ void SimpleTextDlgTest::labels()
 
 void SimpleTextDlgTest::formIsAsLaidOut()
 {
-    const TonquillSimpleTextDlg dialog;
+    TonquillSimpleTextDlg dialog;
     QCOMPARE(dialog.windowTitle(), QString("Simple Text"));
+    // Shown, a dialog grows to what its widgets need: they must fit.
+    dialog.show();
     QCOMPARE(dialog.size(), QSize(542, 238));
     const auto *appearance = dialog.findChild<QGroupBox *>("groupBox");
     const auto *textBox = dialog.findChild<QGroupBox *>("groupBox_2");
@@ -400,18 +403,37 @@ void SimpleTextDlgTest::cancelledEditChangesNothing()
     QTRY_COMPARE(m_host.messages.size(), 1);
 }
 
+void SimpleTextDlgTest::editingTakesTheAngleAsItIs_data()
+{
+    QTest::addColumn<double>("before");
+    QTest::addColumn<int>("shown");
+    QTest::addColumn<int>("typed");
+    QTest::newRow("another angle") << 30.0 << 30 << 45;
+    QTest::newRow("full circle") << 30.0 << 30 << 360;
+    // A new text turned by the dialog's 30 stands at -30, which is below what the box shows.
+    QTest::newRow("turned the other way") << -30.0 << 0 << 0;
+    QTest::newRow("not whole") << 12.5 << 13 << 13;
+}
+
 void SimpleTextDlgTest::editingTakesTheAngleAsItIs()
 {
+    QFETCH(double, before);
+    QFETCH(int, shown);
+    QFETCH(int, typed);
     TonquillText *text = place();
-    whenOpen<QMenu>([](QMenu &menu) {
-        whenOpen<TonquillSimpleTextDlg>([](TonquillSimpleTextDlg &dialog) {
-            dialog.setAngle(45);
+    text->setRotation(before);
+    int found = -1;
+    whenOpen<QMenu>([&found, typed](QMenu &menu) {
+        whenOpen<TonquillSimpleTextDlg>([&found, typed](TonquillSimpleTextDlg &dialog) {
+            found = dialog.angle();
+            dialog.setAngle(float(typed));
             clickButton(dialog, "pb_ok");
         });
         choose(menu, 0);
     });
     openMenu(*text);
-    QCOMPARE(text->rotation(), 45.0);
+    QCOMPARE(found, shown);
+    QCOMPARE(text->rotation(), double(typed));
 }
 
 /** A document that arrives while the dialog is open takes the text away. */

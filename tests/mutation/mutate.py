@@ -36,16 +36,15 @@ def problems():
 
 
 class Copy:
-    """The sources and the build that are broken."""
+    """The sources that are broken, built in the same way as those that they are copied from."""
 
     def __init__(self, folder):
-        self.sources = folder / "sources"
-        self.build = folder / "build"
+        self.sources = folder
+        self.build = folder / "build/dev"
 
     def prepare(self):
         self._copy_sources()
-        run("cmake", "-S", self.sources, "-B", self.build, "-G", "Ninja",
-            "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0")  # fmt: skip
+        run("cmake", "-S", self.sources, "--preset", "dev")
 
     def _copy_sources(self):
         """Touches only what differs, so that only that is compiled."""

@@ -12,14 +12,15 @@ TestHost::TestHost()
 
 void TestHost::onNewConnection()
 {
-    m_socket = m_server.nextPendingConnection();
-    connect(m_socket, &QLocalSocket::readyRead, this, &TestHost::onReadyRead);
-    connect(m_socket, &QLocalSocket::disconnected, this, [this] { m_socket = nullptr; });
-}
-
-void TestHost::onReadyRead()
-{
-    messages.append(QString::fromLatin1(m_socket->readAll()));
+    QLocalSocket *socket = m_server.nextPendingConnection();
+    m_socket = socket;
+    connect(socket, &QLocalSocket::readyRead, this,
+            [this, socket] { messages.append(QString::fromLatin1(socket->readAll())); });
+    // An editor that went may be noticed after the next one has come.
+    connect(socket, &QLocalSocket::disconnected, this, [this, socket] {
+        if (m_socket == socket)
+            m_socket = nullptr;
+    });
 }
 
 void TestHost::sendRaw(const QByteArray &bytes)

@@ -29,7 +29,6 @@ public:
 
 private Q_SLOTS:
     void onNewConnection();
-    void onReadyRead();
 
 private:
     QLocalServer m_server;

@@ -1,0 +1,210 @@
+#include "DocumentFile.h"
+#include "ItemRecords.h"
+#include "SoloTestMain.h"
+
+#include <sys/resource.h>
+
+#include <csignal>
+
+/** Files: what is written, what is read, and what is said about what cannot be. */
+class DocumentFileTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void writesAFileThatADiffCanShow();
+    void readsPlainHostDocuments_data();
+    void readsPlainHostDocuments();
+    void saysWhatIsWrongAndOffersTheRest_data();
+    void saysWhatIsWrongAndOffersTheRest();
+    void saysWhyAFileCannotBeOpened_data();
+    void saysWhyAFileCannotBeOpened();
+    void aFailedSaveLeavesTheOldFile_data();
+    void aFailedSaveLeavesTheOldFile();
+    void aFullDiskLeavesTheOldFile();
+    void readingSurvivesAnyBytes();
+
+private:
+    QTemporaryDir m_folder;
+};
+
+namespace
+{
+const Paper a4{{728, 1052}, {12, 13, 704, 1026}};
+
+DocumentSnapshot twoNotes()
+{
+    return DocumentSnapshot{a4, 3, {"tonquill_bitmap 1 2 19", "tonquill_bitmap 3 4 22"}};
+}
+
+const QByteArray twoNotesFile = "tonquill-document 1\n"
+                                "tonquill_pagecount 3\n"
+                                "tonquill_paper 728 1052 12 13 704 1026\n"
+                                "tonquill_bitmap 1 2 19\n"
+                                "tonquill_bitmap 3 4 22\n"
+                                "tonquill-end\n";
+} // namespace
+
+void DocumentFileTest::writesAFileThatADiffCanShow()
+{
+    QCOMPARE(DocumentFile::format(twoNotes()), twoNotesFile);
+    const DocumentFile::Reading reading = DocumentFile::parse(twoNotesFile, Paper());
+    QVERIFY(reading.isDocument);
+    QVERIFY(reading.problems.isEmpty());
+    QCOMPARE(reading.document, twoNotes());
+}
+
+void DocumentFileTest::readsPlainHostDocuments_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArrayList>("items");
+    // A host has the topmost item first, and positions in whole units.
+    QTest::newRow("glyphs") << QByteArray("tonquill_pagecount 2\ntonquill_bitmap 19 120 300 1\n"
+                                          "tonquill_bitmap 2 5 6 0\n")
+                            << QByteArrayList{"tonquill_bitmap 5 6 2",
+                                              "tonquill_bitmap 120 300 19 inverted=1"};
+    QTest::newRow("time signature")
+        << QByteArray("tonquill_pagecount 2\ntonquill_timesig 7 8 3 4\n")
+        << QByteArrayList{"tonquill_timesig 7 8 3 4"};
+    QTest::newRow("figure") << QByteArray("tonquill_pagecount 2\n"
+                                          "tonquill_triplet 200 410 0 0 60 -12\n")
+                            << QByteArrayList{"tonquill_triplet 200 410 0 0 60 -12"};
+    QTest::newRow("words, a family with blanks, a colour and half a degree")
+        << QByteArray("tonquill_pagecount 2\n"
+                      "tonquill_text 1 2 90 20 Allegro moderato Times New Roman 18 ffff0000 12.5\n")
+        << QByteArrayList{"tonquill_text 1 2 text=\"Allegro moderato\" font=\"Times New Roman\" "
+                          "size=18 color=#ff0000 rotation=12.5"};
+}
+
+void DocumentFileTest::readsPlainHostDocuments()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QByteArrayList, items);
+    const DocumentFile::Reading reading = DocumentFile::parse(bytes, a4);
+    QCOMPARE(reading.problemText(), QString());
+    QCOMPARE(reading.document, (DocumentSnapshot{a4, 2, items}));
+}
+
+void DocumentFileTest::saysWhatIsWrongAndOffersTheRest_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QList<int>>("lines");
+    QTest::addColumn<int>("items");
+    QByteArray damaged = twoNotesFile;
+    damaged.replace("tonquill_bitmap 1 2 19", "tonquill_bitmap 1 b 19");
+    QTest::newRow("a damaged record") << damaged << QList<int>{4} << 1;
+    QTest::newRow("cut off between records")
+        << twoNotesFile.chopped(qsizetype(qstrlen("tonquill-end\n"))) << QList<int>{6} << 2;
+    QTest::newRow("cut off within a record") << twoNotesFile.chopped(16) << QList<int>{5, 6} << 1;
+    QByteArray newer = twoNotesFile;
+    newer.replace("document 1", "document 2");
+    newer.replace("tonquill-end", "tonquill_hologram 1 2\ntonquill-end");
+    QTest::newRow("a newer version") << newer << QList<int>{1, 6} << 2;
+    QByteArray noPages = twoNotesFile;
+    noPages.replace("pagecount 3", "pagecount -3");
+    QTest::newRow("an impossible number of pages") << noPages << QList<int>{2} << 2;
+    QByteArray noPaper = twoNotesFile;
+    noPaper.replace("728 1052", "728 nan");
+    QTest::newRow("impossible paper") << noPaper << QList<int>{3} << 2;
+    QTest::newRow("more behind the end") << twoNotesFile + "x\n" << QList<int>{7} << 2;
+    QByteArray latin = twoNotesFile;
+    latin.replace("tonquill_bitmap 3 4 22", "tonquill_bitmap 3 4 \xe9");
+    QTest::newRow("not UTF-8") << latin << QList<int>{5, 5} << 1;
+    QTest::newRow("a block of a host without its end")
+        << QByteArray("tonquill_pagecount 1\ntonquill_bitmap 19 1 2 0\n"
+                      "tonquill_textblock_begin 1 2 30 40\nverse\n")
+        << QList<int>{3} << 2;
+}
+
+void DocumentFileTest::saysWhatIsWrongAndOffersTheRest()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QList<int>, lines);
+    QFETCH(int, items);
+    const DocumentFile::Reading reading = DocumentFile::parse(bytes, a4);
+    QVERIFY(reading.isDocument);
+    QList<int> told;
+    for (const DocumentFile::Problem &problem : reading.problems)
+        told.append(problem.line);
+    QCOMPARE(told, lines);
+    QCOMPARE(reading.document.items.size(), qsizetype(items));
+    QVERIFY(reading.problemText().contains(QString::number(lines.constFirst())));
+}
+
+void DocumentFileTest::saysWhyAFileCannotBeOpened_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("missing") << m_folder.filePath("missing.tonquill");
+    QTest::newRow("folder") << m_folder.path();
+    QFile empty(m_folder.filePath("empty.tonquill"));
+    QVERIFY(empty.open(QIODevice::WriteOnly));
+    QTest::newRow("empty") << empty.fileName();
+    QFile other(m_folder.filePath("other.tonquill"));
+    QVERIFY(other.open(QIODevice::WriteOnly));
+    other.write("%PDF-1.4\n");
+    QTest::newRow("another kind of file") << other.fileName();
+}
+
+void DocumentFileTest::saysWhyAFileCannotBeOpened()
+{
+    QFETCH(QString, path);
+    const DocumentFile::Reading reading = DocumentFile::load(path, a4);
+    QVERIFY(!reading.isDocument);
+    QVERIFY(!reading.problemText().isEmpty());
+}
+
+void DocumentFileTest::aFailedSaveLeavesTheOldFile_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("folder that is not there") << m_folder.filePath("none/a.tonquill");
+    QTest::newRow("below a file") << QString("/etc/passwd/a.tonquill");
+    QTest::newRow("the folder itself") << m_folder.path();
+    QTest::newRow("a device") << QString("/dev/full");
+}
+
+void DocumentFileTest::aFailedSaveLeavesTheOldFile()
+{
+    QFETCH(QString, path);
+    const QFileInfo before(path);
+    const bool wasDevice = before.exists() && !before.isFile() && !before.isDir();
+    QVERIFY(!DocumentFile::save(path, twoNotes()).isEmpty());
+    const QFileInfo after(path);
+    QCOMPARE(after.exists() && !after.isFile() && !after.isDir(), wasDevice);
+}
+
+/** A limit on the size of files stands for the disk that is full: writing more fails. */
+void DocumentFileTest::aFullDiskLeavesTheOldFile()
+{
+    const QString path = m_folder.filePath("kept.tonquill");
+    QCOMPARE(DocumentFile::save(path, twoNotes()), QString());
+    DocumentSnapshot large = twoNotes();
+    large.items.append(QByteArray(100'000, 'x'));
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit small{4096, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    const QString error = DocumentFile::save(path, large);
+    setrlimit(RLIMIT_FSIZE, &before);
+    QVERIFY(!error.isEmpty());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), twoNotesFile);
+    QCOMPARE(QDir(m_folder.path()).entryList({"kept*"}).size(), 1);
+}
+
+void DocumentFileTest::readingSurvivesAnyBytes()
+{
+    QRandomGenerator random(3);
+    for (int i = 0; i < 3000; ++i) {
+        QByteArray bytes = twoNotesFile + "tonquill_text 1 2 text=\"a\" font=\"Arial\" size=9\n";
+        for (int changes = random.bounded(8); changes >= 0; --changes)
+            bytes[random.bounded(int(bytes.size()))] = char(random.bounded(256));
+        const DocumentFile::Reading reading = DocumentFile::parse(bytes, a4);
+        for (const QByteArray &line : reading.document.items)
+            QVERIFY(ItemRecords::parse(QString::fromUtf8(line)).has_value());
+    }
+}
+
+TONQUILL_SOLO_TEST_MAIN(DocumentFileTest)
+#include "tst_documentfile.moc"

@@ -1,0 +1,187 @@
+#include "EditWatcher.h"
+#include "SoloTestMain.h"
+#include "TonquillBitmap.h"
+#include "TonquillMainWin.h"
+#include "TonquillScene.h"
+#include "TonquillTextBlock.h"
+#include "TonquillView.h"
+
+#include <QSignalSpy>
+
+/** What is an edit of its own, and what is a part of another or none. */
+class EditWatcherTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void aHeldArrowKeyIsOneStep();
+    void eachTapOfAnArrowKeyIsAStep();
+    void aReleaseThatChangedNothingIsNoStep();
+    void pasteIsAStep();
+    void deletionIsAStep();
+    void aRunOfTypingIsOneStep();
+    void aBlocksSizeOfTypeIsAStep();
+    void pagesAreSteps();
+    void anItemThatWaitsToBePlacedIsNoEdit();
+    void undoKeepsTheSelectionOfWhatIsStillThere();
+    void undoLeavesTheViewWhereItIs();
+
+private:
+    int stepsBack();
+    TonquillTextBlock *addEditedBlock();
+
+    std::unique_ptr<TonquillMainWin> m_window;
+    std::unique_ptr<EditWatcher> m_edits;
+};
+
+void EditWatcherTest::init()
+{
+    m_window = std::make_unique<TonquillMainWin>(TonquillMainWin::HostConnection::Later);
+    m_window->show();
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    m_window->InsertBitmapSymbol(19, false, true)->setPos(200, 200);
+    m_edits = std::make_unique<EditWatcher>(*m_window);
+    m_window->view()->setFocus();
+    m_window->scene->items().constFirst()->topLevelItem()->setSelected(true);
+}
+
+void EditWatcherTest::cleanup()
+{
+    m_edits.reset();
+    m_window.reset();
+}
+
+/** How many steps can be undone. */
+int EditWatcherTest::stepsBack()
+{
+    QCoreApplication::processEvents();
+    int steps = 0;
+    while (m_edits->undo())
+        ++steps;
+    return steps;
+}
+
+TonquillTextBlock *EditWatcherTest::addEditedBlock()
+{
+    auto *block = new TonquillTextBlock(false, QStringLiteral("la"), QRectF(0, 0, 200, 60));
+    m_window->scene->addNewItem(block);
+    m_edits->reset();
+    block->setSelected(true);
+    block->setTextInteractionFlags(Qt::TextEditorInteraction);
+    block->setFocus();
+    return block;
+}
+
+void EditWatcherTest::aHeldArrowKeyIsOneStep()
+{
+    QWidget *viewport = m_window->view();
+    for (int i = 0; i < 20; ++i) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier, QString(), i > 0);
+        QCoreApplication::sendEvent(viewport, &press);
+        QKeyEvent release(QEvent::KeyRelease, Qt::Key_Right, Qt::NoModifier, QString(), i < 19);
+        QCoreApplication::sendEvent(viewport, &release);
+        QCoreApplication::processEvents();
+    }
+    QVERIFY(m_edits->document().items.contains("tonquill_bitmap 220 200 19"));
+    QCOMPARE(stepsBack(), 1);
+    QVERIFY(m_edits->document().items.contains("tonquill_bitmap 200 200 19"));
+}
+
+void EditWatcherTest::eachTapOfAnArrowKeyIsAStep()
+{
+    for (int i = 0; i < 3; ++i) {
+        QTest::keyClick(m_window->view(), Qt::Key_Down);
+        QCoreApplication::processEvents();
+    }
+    QCOMPARE(stepsBack(), 3);
+}
+
+void EditWatcherTest::aReleaseThatChangedNothingIsNoStep()
+{
+    QTest::keyClick(m_window->view(), Qt::Key_Home);
+    QTest::mouseClick(m_window->view()->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+    QCOMPARE(stepsBack(), 0);
+}
+
+void EditWatcherTest::pasteIsAStep()
+{
+    QTest::keyClick(m_window->view(), Qt::Key_C, Qt::ControlModifier);
+    QTest::keyClick(m_window->view(), Qt::Key_V, Qt::ControlModifier);
+    QTRY_VERIFY(m_edits->document().items.contains("tonquill_bitmap 230 230 19"));
+    QCOMPARE(stepsBack(), 1);
+}
+
+void EditWatcherTest::deletionIsAStep()
+{
+    QTest::keyClick(m_window->view(), Qt::Key_Delete);
+    QTRY_VERIFY(m_edits->document().items.isEmpty());
+    QCOMPARE(stepsBack(), 1);
+    QCOMPARE(m_edits->document().items, QByteArrayList{"tonquill_bitmap 200 200 19"});
+}
+
+void EditWatcherTest::aRunOfTypingIsOneStep()
+{
+    const TonquillTextBlock *block = addEditedBlock();
+    for (const char letter : QByteArray("lalala")) {
+        QTest::keyClick(m_window->view(), letter);
+        QCoreApplication::processEvents();
+    }
+    QCOMPARE(block->toPlainText(), QString("lalalala"));
+    QCOMPARE(stepsBack(), 1);
+}
+
+void EditWatcherTest::aBlocksSizeOfTypeIsAStep()
+{
+    auto *block = addEditedBlock();
+    QFont font = block->font();
+    font.setPointSize(30);
+    block->setFont(font);
+    m_edits->check();
+    QVERIFY(m_edits->document().items.constLast().contains("size=30"));
+    QCOMPARE(stepsBack(), 1);
+}
+
+void EditWatcherTest::pagesAreSteps()
+{
+    m_window->OnMenuAddPageEnd();
+    m_edits->check();
+    m_window->OnMenuAddPageBeginning();
+    m_edits->check();
+    QCOMPARE(m_window->pageCount, 3);
+    QCOMPARE(stepsBack(), 2);
+    QCOMPARE(m_window->pageCount, 1);
+    QCOMPARE(m_edits->document().items, QByteArrayList{"tonquill_bitmap 200 200 19"});
+}
+
+void EditWatcherTest::anItemThatWaitsToBePlacedIsNoEdit()
+{
+    m_window->InsertBitmapSymbol(22, true, true);
+    m_edits->check();
+    QCOMPARE(stepsBack(), 0);
+}
+
+void EditWatcherTest::undoKeepsTheSelectionOfWhatIsStillThere()
+{
+    QTest::keyClick(m_window->view(), Qt::Key_Right);
+    QVERIFY(m_edits->undo());
+    const QList<QGraphicsItem *> selected = m_window->scene->selectedItems();
+    QCOMPARE(selected.size(), 1);
+    QCOMPARE(selected.constFirst()->pos(), QPointF(200, 200));
+}
+
+void EditWatcherTest::undoLeavesTheViewWhereItIs()
+{
+    m_window->scene->setPageNum(5);
+    m_edits->reset();
+    m_window->OnSetCurPage(4);
+    const QPointF place = m_window->view()->curScenePos();
+    m_window->InsertBitmapSymbol(22, false, true)->setPos(100, 3600);
+    QVERIFY(m_edits->undo());
+    QCOMPARE(m_window->view()->curScenePos(), place);
+}
+
+TONQUILL_SOLO_TEST_MAIN(EditWatcherTest)
+#include "tst_editwatcher.moc"

@@ -1,0 +1,329 @@
+#include "DocumentFile.h"
+#include "MenuBar.h"
+#include "PaletteTable.h"
+#include "SoloTestMain.h"
+#include "SoloWindow.h"
+#include "TonquillBitmap.h"
+#include "TonquillScene.h"
+#include "TonquillTextBlock.h"
+#include "TonquillView.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTimer>
+#include <QToolBar>
+
+/** The window with its menus, its title and its end. */
+class SoloWindowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void noShortcutIsAKeyOfTheEditor();
+    void noTwoEntriesShareAShortcut();
+    void ctrlIsNotHeldAfterAShortcut();
+    void everyPaletteCommandIsInTheInsertMenu();
+    void copyAndPasteFromTheMenuActOnce();
+    void aTextLeftForTheMenuIsNotDeleted();
+    void theTitleTellsNameAndChange();
+    void closingAsksAndEnds_data();
+    void closingAsksAndEnds();
+    void undoFromToolbarAndMenuIsTheSame();
+    void nothingLeftToUndoIsSaid();
+    void ctrlAndWheelZoomAtThePointer();
+    void openingABrokenFileChangesNothing();
+    void partOfADamagedFileIsOffered();
+    void aRecoveredDocumentIsUnsaved();
+
+private:
+    QList<QAction *> menuActions() const;
+    QAction *entry(const QString &text) const;
+    void placeNote();
+    static void answerBox(QMessageBox::ButtonRole role, QString *text = nullptr);
+    QString fileOf(const QByteArray &bytes);
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<SoloWindow> m_solo;
+};
+
+void SoloWindowTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_solo = std::make_unique<SoloWindow>(m_folder->path());
+    QCOMPARE(m_solo->startHost(), QString());
+    m_solo->show();
+    QVERIFY(QTest::qWaitForWindowActive(&m_solo->window()));
+    m_solo->window().view()->setFocus();
+}
+
+void SoloWindowTest::cleanup()
+{
+    m_solo->session().close();
+    m_solo.reset();
+    m_folder.reset();
+}
+
+/** Every entry of the menus, those of submenus included. */
+QList<QAction *> SoloWindowTest::menuActions() const
+{
+    QList<QAction *> result;
+    const QList<QMenu *> menus = m_solo->window().menuBar()->findChildren<QMenu *>();
+    for (const QMenu *menu : menus)
+        result += menu->actions();
+    return result;
+}
+
+QAction *SoloWindowTest::entry(const QString &text) const
+{
+    for (QAction *action : menuActions()) {
+        if (action->text().remove(u'&').section(u'\t', 0, 0) == text)
+            return action;
+    }
+    return nullptr;
+}
+
+void SoloWindowTest::placeNote()
+{
+    m_solo->window().InsertBitmapSymbol(19, false, true)->setPos(200, 200);
+    m_solo->session().edits().check();
+}
+
+/** Answers the next box with its first button of a role, and tells what the box said. */
+void SoloWindowTest::answerBox(QMessageBox::ButtonRole role, QString *text)
+{
+    QTimer::singleShot(0, qApp, [role, text] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box) {
+            answerBox(role, text);
+            return;
+        }
+        if (text)
+            *text = box->text() + u'\n' + box->informativeText();
+        for (QAbstractButton *button : box->buttons()) {
+            if (box->buttonRole(button) == role) {
+                button->click();
+                return;
+            }
+        }
+    });
+}
+
+QString SoloWindowTest::fileOf(const QByteArray &bytes)
+{
+    QFile file(m_folder->filePath("file.tonquill"));
+    const bool isOpen = file.open(QIODevice::WriteOnly);
+    file.write(isOpen ? bytes : QByteArray());
+    return file.fileName();
+}
+
+void SoloWindowTest::noShortcutIsAKeyOfTheEditor()
+{
+    QList<QKeySequence> editorsOwn{Qt::Key_F5,   Qt::Key_Left,  Qt::Key_Right,  Qt::Key_Up,
+                                   Qt::Key_Down, Qt::Key_Space, Qt::Key_Delete, Qt::Key_Backspace};
+    editorsOwn += QKeySequence::keyBindings(QKeySequence::Copy);
+    editorsOwn += QKeySequence::keyBindings(QKeySequence::Paste);
+    for (const QAction *action : menuActions()) {
+        for (const QKeySequence &shortcut : action->shortcuts())
+            QVERIFY2(!editorsOwn.contains(shortcut), qPrintable(action->text()));
+    }
+}
+
+void SoloWindowTest::noTwoEntriesShareAShortcut()
+{
+    QSet<QString> seen;
+    for (const QAction *action : menuActions()) {
+        for (const QKeySequence &shortcut : action->shortcuts()) {
+            QVERIFY2(!seen.contains(shortcut.toString()), qPrintable(action->text()));
+            seen.insert(shortcut.toString());
+        }
+    }
+    QVERIFY(seen.contains("Ctrl+S"));
+}
+
+void SoloWindowTest::ctrlIsNotHeldAfterAShortcut()
+{
+    placeNote();
+    QWidget *view = m_solo->window().view();
+    QTest::keyPress(view, Qt::Key_Control);
+    QVERIFY(m_solo->window().restMode);
+    // The box that asks takes the keyboard while Ctrl is down, and hears of its release.
+    answerBox(QMessageBox::RejectRole);
+    QTest::keyClick(view, Qt::Key_Q, Qt::ControlModifier);
+    QVERIFY(!m_solo->window().restMode);
+}
+
+void SoloWindowTest::everyPaletteCommandIsInTheInsertMenu()
+{
+    QStringList names;
+    for (const QAction *action : menuActions())
+        names.append(action->text());
+    for (const PaletteToolBar &toolBar : PaletteTable::toolBars().sliced(1)) {
+        for (const PaletteEntry &row : toolBar.entries) {
+            const QString name = row.translatedName().section(" (", 0, 0);
+            QVERIFY2(names.contains(name), qPrintable(name));
+        }
+    }
+    for (const PaletteMenu &menu : PaletteTable::menus()) {
+        for (const PaletteEntry &row : menu.entries)
+            QVERIFY2(row.isSeparator() || names.contains(row.translatedName()), row.name);
+    }
+    QVERIFY(names.contains("Eighth rest"));
+}
+
+void SoloWindowTest::copyAndPasteFromTheMenuActOnce()
+{
+    placeNote();
+    entry("Select All")->trigger();
+    entry("Copy")->trigger();
+    entry("Paste")->trigger();
+    QTRY_COMPARE(m_solo->session().edits().document().items,
+                 (QByteArrayList{"tonquill_bitmap 200 200 19", "tonquill_bitmap 230 230 19"}));
+    entry("Delete")->trigger();
+    QTRY_COMPARE(m_solo->session().edits().document().items,
+                 QByteArrayList{"tonquill_bitmap 230 230 19"});
+}
+
+void SoloWindowTest::aTextLeftForTheMenuIsNotDeleted()
+{
+    auto *block = new TonquillTextBlock(false, QStringLiteral("la"), QRectF(0, 0, 200, 60));
+    m_solo->window().scene->addNewItem(block);
+    block->setSelected(true);
+    block->setTextInteractionFlags(Qt::TextEditorInteraction);
+    block->setFocus();
+    m_solo->window().scene->setFocusItem(nullptr, Qt::PopupFocusReason);
+    QMenu *menu = entry("Delete")->associatedObjects().isEmpty()
+                      ? nullptr
+                      : qobject_cast<QMenu *>(entry("Delete")->parent());
+    QVERIFY(menu);
+    Q_EMIT menu->aboutToShow();
+    QVERIFY(!entry("Delete")->isEnabled());
+}
+
+void SoloWindowTest::theTitleTellsNameAndChange()
+{
+    QCOMPARE(m_solo->window().windowTitle(), QString("Untitled[*] – Tonquill"));
+    QVERIFY(!m_solo->window().isWindowModified());
+    placeNote();
+    QVERIFY(m_solo->window().isWindowModified());
+    QCOMPARE(m_solo->session().saveAs(m_folder->filePath("song.tonquill")), QString());
+    QCOMPARE(m_solo->window().windowTitle(), QString("song.tonquill[*] – Tonquill"));
+    QVERIFY(!m_solo->window().isWindowModified());
+    QVERIFY(m_solo->session().edits().undo());
+    QVERIFY(m_solo->window().isWindowModified());
+    QVERIFY(m_solo->session().edits().redo());
+    QVERIFY(!m_solo->window().isWindowModified());
+}
+
+void SoloWindowTest::closingAsksAndEnds_data()
+{
+    QTest::addColumn<QMessageBox::ButtonRole>("answer");
+    QTest::addColumn<bool>("ends");
+    QTest::addColumn<bool>("saves");
+    QTest::newRow("save") << QMessageBox::AcceptRole << true << true;
+    QTest::newRow("discard") << QMessageBox::DestructiveRole << true << false;
+    QTest::newRow("cancel") << QMessageBox::RejectRole << false << false;
+}
+
+void SoloWindowTest::closingAsksAndEnds()
+{
+    QFETCH(QMessageBox::ButtonRole, answer);
+    QFETCH(bool, ends);
+    QFETCH(bool, saves);
+    const QString path = m_folder->filePath("song.tonquill");
+    QCOMPARE(m_solo->session().saveAs(path), QString());
+    placeNote();
+    QString asked;
+    answerBox(answer, &asked);
+    m_solo->window().close();
+    QVERIFY(asked.contains("song.tonquill"));
+    QCOMPARE(m_solo->window().isVisible(), !ends);
+    const DocumentFile::Reading reading = DocumentFile::load(path, Paper());
+    QCOMPARE(reading.document.items.size(), qsizetype(saves ? 1 : 0));
+}
+
+void SoloWindowTest::undoFromToolbarAndMenuIsTheSame()
+{
+    placeNote();
+    m_solo->window().OnToolBar1ButtonUndo();
+    QTRY_COMPARE(m_solo->session().edits().document().items.size(), 0);
+    entry("Redo")->trigger();
+    QCOMPARE(m_solo->session().edits().document().items.size(), 1);
+    QTest::keyClick(m_solo->window().view(), Qt::Key_Z, Qt::ControlModifier);
+    QTRY_COMPARE(m_solo->session().edits().document().items.size(), 0);
+}
+
+void SoloWindowTest::nothingLeftToUndoIsSaid()
+{
+    for (const auto &[text, said] :
+         {std::pair("Undo", "Nothing to undo"), std::pair("Redo", "Nothing to redo")}) {
+        entry(text)->trigger();
+        QTRY_VERIFY(m_solo->window().findChild<QMessageBox *>());
+        auto *box = m_solo->window().findChild<QMessageBox *>();
+        QCOMPARE(box->text(), QString(said));
+        delete box;
+    }
+}
+
+void SoloWindowTest::ctrlAndWheelZoomAtThePointer()
+{
+    TonquillView &view = *m_solo->window().view();
+    const QPoint place(200, 150);
+    QWheelEvent wheel(place, view.viewport()->mapToGlobal(place), QPoint(), QPoint(0, 120),
+                      Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(view.viewport(), &wheel);
+    // One notch makes everything a quarter larger.
+    QCOMPARE(view.transform().m11(), 1.25);
+    entry("100 %")->trigger();
+    QCOMPARE(view.transform().m11(), 1.0);
+}
+
+void SoloWindowTest::openingABrokenFileChangesNothing()
+{
+    placeNote();
+    const QString path = fileOf("no document\n");
+    QString said;
+    answerBox(QMessageBox::AcceptRole, &said);
+    m_solo->files().openFile(path);
+    QVERIFY(said.contains("This is not a Tonquill document."));
+    QCOMPARE(m_solo->session().edits().document().items.size(), 1);
+    QVERIFY(m_solo->session().path().isEmpty());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("no document\n"));
+}
+
+void SoloWindowTest::partOfADamagedFileIsOffered()
+{
+    const QString path = fileOf("tonquill-document 1\ntonquill_bitmap 1 2 19\nrubbish\n"
+                                "tonquill-end\n");
+    QString said;
+    answerBox(QMessageBox::AcceptRole, &said);
+    m_solo->files().openFile(path);
+    QVERIFY(said.contains("Line 3"));
+    QCOMPARE(m_solo->session().edits().document().items, QByteArrayList{"tonquill_bitmap 1 2 19"});
+    QVERIFY(m_solo->session().isModified());
+}
+
+void SoloWindowTest::aRecoveredDocumentIsUnsaved()
+{
+    const QString path = fileOf("untouched");
+    DocumentSnapshot lost = m_solo->session().edits().document();
+    lost.items = {"tonquill_bitmap 7 8 19"};
+    QVERIFY(m_solo->session().journal().write(lost, path));
+    answerBox(QMessageBox::AcceptRole);
+    m_solo->files().offerRecovery();
+    QCOMPARE(m_solo->session().edits().document(), lost);
+    QCOMPARE(m_solo->session().path(), path);
+    QVERIFY(m_solo->session().isModified());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("untouched"));
+}
+
+TONQUILL_SOLO_TEST_MAIN(SoloWindowTest)
+#include "tst_solowindow.moc"
