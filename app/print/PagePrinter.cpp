@@ -10,8 +10,10 @@
 #include <QPageSetupDialog>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QPointer>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
+#include <QTimer>
 
 namespace
 {
@@ -57,11 +59,21 @@ void PagePrinter::showPreview()
     dialog.exec();
 }
 
+/**
+ * The dialog is shown without waiting for it. Its own loop follows all the same: on Unix the
+ * toolkit hands what was chosen to the printer at the end of that loop, and nowhere else.
+ */
 void PagePrinter::showPageSetup()
 {
-    auto *dialog = new QPageSetupDialog(&m_window.sharedPrinter(), &m_window);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    const QPointer<QPageSetupDialog> dialog =
+        new QPageSetupDialog(&m_window.sharedPrinter(), &m_window);
     dialog->open(&m_window, SLOT(OnPageSetupAccepted()));
+    QTimer::singleShot(0, dialog, [dialog] {
+        if (dialog->isVisible())
+            dialog->exec();
+        if (dialog)
+            dialog->deleteLater();
+    });
 }
 
 void PagePrinter::showPrintDialog()

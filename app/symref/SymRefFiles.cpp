@@ -84,6 +84,8 @@ QString SymRefFiles::pathOf(const QString &instrument)
 
 bool SymRefFiles::staysInDirectory(const QString &instrument)
 {
-    // "SymRef_" stands before the name, so only a separator in it can lead to another folder.
-    return !instrument.contains(u'/') && !instrument.contains(QDir::separator());
+    // "SymRef_" stands before the name, so "..", too, is a name of its own until a separator comes.
+    QString name = instrument;
+    const QStringList steps = name.replace(QDir::separator(), u'/').split(u'/');
+    return steps.size() == 1 || !steps.contains(QStringLiteral(".."));
 }

@@ -30,7 +30,7 @@ public:
     /** The file of an instrument. */
     static QString pathOf(const QString &instrument);
 
-    /** False if the file of such an instrument would lie outside the application's directory. */
+    /** False if the name climbs out of a folder, and with it out of the application's directory. */
     static bool staysInDirectory(const QString &instrument);
 
 private:

@@ -1,5 +1,6 @@
 #include "ItemProbe.h"
 #include "LetterDocument.h"
+#include "PaperPainting.h"
 #include "PdfFile.h"
 #include "ScenePointer.h"
 #include "TestMain.h"
@@ -27,7 +28,7 @@ public:
     int newPages = 0;
 };
 
-/** An item of 10 by 10 that counts how often any of its kind is painted. */
+/** An item of 10 by 10 that counts how often any of its kind is printed. */
 class PaintCounter : public QGraphicsItem
 {
 public:
@@ -35,7 +36,10 @@ public:
         : m_paints(paints)
     {}
     QRectF boundingRect() const override { return QRectF(0, 0, 10, 10); }
-    void paint(QPainter *, const QStyleOptionGraphicsItem *, QWidget *) override { ++m_paints; }
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *) override
+    {
+        m_paints += PaperPainting::isPrinter(*painter);
+    }
 
 private:
     int &m_paints;
@@ -61,7 +65,7 @@ class PrintedPagesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_document.clear(); }
+    void init();
     void asManyPagesAsTheDocument_data();
     void asManyPagesAsTheDocument();
     void everyPageShowsItsOwnItems();
@@ -82,6 +86,12 @@ private Q_SLOTS:
 private:
     LetterDocument m_document;
 };
+
+void PrintedPagesTest::init()
+{
+    m_document.clear();
+    m_document.window.hide();
+}
 
 void PrintedPagesTest::asManyPagesAsTheDocument_data()
 {

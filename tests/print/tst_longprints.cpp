@@ -1,0 +1,214 @@
+#include "LetterDocument.h"
+#include "PaperPainting.h"
+#include "TestHost.h"
+#include "TestMain.h"
+
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QTimer>
+
+#include <functional>
+
+namespace
+{
+/** Counts how often it is printed, and takes its time over it the first time. */
+class SlowItem : public QGraphicsItem
+{
+public:
+    /** The progress dialog makes no estimate of a print from less than 50 milliseconds. */
+    static constexpr int slowness = 60;
+
+    explicit SlowItem(int &paints)
+        : m_paints(paints)
+    {}
+    QRectF boundingRect() const override { return QRectF(0, 0, 10, 10); }
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *) override
+    {
+        if (PaperPainting::isPrinter(*painter) && m_paints++ == 0)
+            QTest::qSleep(slowness);
+    }
+
+private:
+    int &m_paints;
+};
+
+using Act = std::function<void(QProgressDialog &)>;
+
+/** Counts the progress dialogs that the program shows, and acts on each. */
+class ProgressWatch : public QObject
+{
+public:
+    explicit ProgressWatch(Act act = {})
+        : m_act(std::move(act))
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        auto *dialog = qobject_cast<QProgressDialog *>(object);
+        if (!dialog || event->type() != QEvent::Show)
+            return false;
+        ++shown;
+        if (m_act)
+            QTimer::singleShot(0, dialog, [this, dialog] { m_act(*dialog); });
+        return false;
+    }
+
+    int shown = 0;
+
+private:
+    Act m_act;
+};
+} // namespace
+
+/** Prints that take long: their progress, their end before time, and the host meanwhile. */
+class LongPrintsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void shortPrintShowsNoProgress();
+    void longPrintShowsItsProgress();
+    void hiddenWindowShowsNoProgress();
+    void cancelledPrintLeavesNothingBehind_data();
+    void cancelledPrintLeavesNothingBehind();
+    void documentFromHostWaitsForThePrint();
+    void documentFromHostThatLeavesWaitsForThePrint();
+
+private:
+    static constexpr int pages = 100;
+    void makePrintLong();
+    QString textOfLastPage();
+
+    TestHost m_host;
+    LetterDocument m_document;
+    int m_paints = 0;
+};
+
+void LongPrintsTest::init()
+{
+    m_document.clear(pages);
+    m_document.window.show();
+    QFile::remove(m_document.pdfPath());
+    m_paints = 0;
+}
+
+/** After the first page the print is expected to take 100 * 60 milliseconds, far above a second. */
+void LongPrintsTest::makePrintLong()
+{
+    for (int page = 0; page < pages; ++page) {
+        auto *item = new SlowItem(m_paints);
+        m_document.window.scene->addItem(item);
+        item->setPos(200, page * LetterDocument::pitch + 200);
+    }
+}
+
+void LongPrintsTest::shortPrintShowsNoProgress()
+{
+    m_document.clear(3);
+    const ProgressWatch watch;
+    QCOMPARE(m_document.print().pageCount(), 3);
+    QCOMPARE(watch.shown, 0);
+}
+
+void LongPrintsTest::longPrintShowsItsProgress()
+{
+    makePrintLong();
+    int steps = 0;
+    bool blocksOthers = false;
+    const ProgressWatch watch([&](QProgressDialog &dialog) {
+        steps = dialog.maximum();
+        blocksOthers = dialog.windowModality() == Qt::ApplicationModal;
+    });
+    QCOMPARE(m_document.print().pageCount(), pages);
+    QCOMPARE(m_paints, pages);
+    QCOMPARE(watch.shown, 1);
+    QCOMPARE(steps, pages);
+    QVERIFY(blocksOthers);
+}
+
+void LongPrintsTest::hiddenWindowShowsNoProgress()
+{
+    makePrintLong();
+    m_document.window.hide();
+    const ProgressWatch watch;
+    QCOMPARE(m_document.print().pageCount(), pages);
+    QCOMPARE(watch.shown, 0);
+}
+
+void LongPrintsTest::cancelledPrintLeavesNothingBehind_data()
+{
+    QTest::addColumn<Act>("cancel");
+    QTest::newRow("the button") << Act([](QProgressDialog &dialog) {
+        QTest::mouseClick(dialog.findChild<QPushButton *>(), Qt::LeftButton);
+    });
+    QTest::newRow("Escape") << Act([](QProgressDialog &dialog) {
+        QApplication::setActiveWindow(&dialog);
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    QTest::newRow("closing the dialog") << Act([](QProgressDialog &dialog) { dialog.close(); });
+}
+
+void LongPrintsTest::cancelledPrintLeavesNothingBehind()
+{
+    QFETCH(Act, cancel);
+    makePrintLong();
+    const qsizetype items = m_document.window.scene->items().size();
+    const ProgressWatch watch(cancel);
+    QPrinter printer(QPrinter::ScreenResolution);
+    LetterDocument::makeLetter(printer);
+    printer.setOutputFileName(m_document.pdfPath());
+    m_document.window.print(&printer);
+    QCOMPARE(watch.shown, 1);
+    QVERIFY(m_paints < pages);
+    QVERIFY(!QFile::exists(m_document.pdfPath()));
+    // No word about it, for the user knows; and the next print is whole.
+    QVERIFY(m_document.window.findChildren<QMessageBox *>().isEmpty());
+    QCOMPARE(m_document.window.scene->items().size(), items);
+    QCOMPARE(m_document.window.pageCount, pages);
+    m_document.window.print(&printer);
+    QCOMPARE(PdfFile(m_document.pdfPath()).pageCount(), pages);
+}
+
+/** The last page carries one word. */
+QString LongPrintsTest::textOfLastPage()
+{
+    const int y = qRound((pages - 1) * LetterDocument::pitch) + 400;
+    m_document.window.scene->constructItem(
+        QString("tonquill_text 400 %1 60 20 Fine Arial 14 0 0").arg(y), false, 0);
+    return m_document.print().text(pages).simplified();
+}
+
+void LongPrintsTest::documentFromHostWaitsForThePrint()
+{
+    QTRY_VERIFY(m_host.isConnected());
+    makePrintLong();
+    const ProgressWatch watch(
+        [this](QProgressDialog &) { m_host.send("tonquill_timesig 100 200 3 4\n"); });
+    QCOMPARE(textOfLastPage(), QString("Fine"));
+    QCOMPARE(watch.shown, 1);
+    QCOMPARE(m_paints, pages);
+    QTRY_VERIFY(ItemProbe::onlyItem(*m_document.window.scene));
+    QCOMPARE(ItemProbe::recordOf(ItemProbe::onlyItem(*m_document.window.scene)),
+             QString("tonquill_timesig 100 200 3 4\n"));
+}
+
+void LongPrintsTest::documentFromHostThatLeavesWaitsForThePrint()
+{
+    QTRY_VERIFY(m_host.isConnected());
+    makePrintLong();
+    const ProgressWatch watch([this](QProgressDialog &) {
+        m_host.send("tonquill_timesig 100 200 6 8\n");
+        m_host.closeConnection();
+    });
+    QCOMPARE(textOfLastPage(), QString("Fine"));
+    QTRY_VERIFY(ItemProbe::onlyItem(*m_document.window.scene));
+    QCOMPARE(ItemProbe::recordOf(ItemProbe::onlyItem(*m_document.window.scene)),
+             QString("tonquill_timesig 100 200 6 8\n"));
+}
+
+TONQUILL_TEST_MAIN(LongPrintsTest)
+#include "tst_longprints.moc"

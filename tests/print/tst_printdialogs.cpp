@@ -1,0 +1,228 @@
+#include "LetterDocument.h"
+#include "ModalAnswer.h"
+#include "TestMain.h"
+
+#include <QAction>
+#include <QGraphicsView>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPageSetupDialog>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
+#include <QProgressDialog>
+#include <QRadioButton>
+
+namespace
+{
+/** The ids of toolbar 1's buttons. */
+constexpr int previewButton = 3;
+constexpr int pageSetupButton = 4;
+constexpr int printButton = 5;
+
+/** The paper of the preview's first page, without the desk on which it lies. */
+QImage paperIn(const QPrintPreviewWidget &preview)
+{
+    constexpr qreal zoom = 3.0;
+    QGraphicsScene *desk = preview.findChild<QGraphicsView *>()->scene();
+    const QRectF page = desk->items().constFirst()->sceneBoundingRect();
+    QImage image((page.size() * zoom).toSize(), QImage::Format_RGB32);
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    desk->render(&painter, image.rect(), page);
+    painter.end();
+    QImage white = image;
+    white.invertPixels();
+    return image.copy(inkOf(white, 0).toRect());
+}
+} // namespace
+
+/** The print preview, the page setup and the print dialog, on the one printer that they share. */
+class PrintDialogsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void previewShowsEveryPage();
+    void previewLooksLikeThePage();
+    void previewShowsNoSelection();
+    void pageSetupTurnsThePaper();
+    void cancelledPageSetupChangesNothing();
+    void pageSetupLeavesTheDocumentAlone();
+    void printDialogPrints_data();
+    void printDialogPrints();
+    void cancelledPrintDialogPrintsNothing();
+    void printDialogPromisesNoPartOfThePages();
+    void uselessSlotDoesNothing();
+
+private:
+    void trigger(int button);
+    void setUpLandscape(void (QDialog::*end)());
+    QImage previewed();
+
+    LetterDocument m_document;
+};
+
+void PrintDialogsTest::init()
+{
+    m_document.clear();
+    QPrinter &printer = m_document.window.sharedPrinter();
+    printer.setPageOrientation(QPageLayout::Portrait);
+    LetterDocument::makeLetter(printer);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(m_document.pdfPath());
+    QFile::remove(m_document.pdfPath());
+}
+
+void PrintDialogsTest::trigger(int button)
+{
+    m_document.window.actions.value(button)->trigger();
+}
+
+void PrintDialogsTest::previewShowsEveryPage()
+{
+    m_document.clear(3);
+    int pages = 0;
+    bool showsProgress = true;
+    ModalAnswer::whenOpen<QPrintPreviewDialog>([&](QPrintPreviewDialog &dialog) {
+        QCOMPARE(dialog.parentWidget(), &m_document.window);
+        QCOMPARE(dialog.printer(), &m_document.window.sharedPrinter());
+        pages = dialog.findChild<QPrintPreviewWidget *>()->pageCount();
+        showsProgress = m_document.window.findChild<QProgressDialog *>() != nullptr;
+    });
+    trigger(previewButton);
+    QCOMPARE(pages, 3);
+    QVERIFY(!showsProgress);
+    QVERIFY(!QFile::exists(m_document.pdfPath()));
+    QVERIFY(m_document.window.findChildren<QMessageBox *>().isEmpty());
+}
+
+/** The paper as the preview shows it. */
+QImage PrintDialogsTest::previewed()
+{
+    QImage paper;
+    ModalAnswer::whenOpen<QPrintPreviewDialog>([&paper](QPrintPreviewDialog &dialog) {
+        paper = paperIn(*dialog.findChild<QPrintPreviewWidget *>());
+    });
+    trigger(previewButton);
+    return paper;
+}
+
+void PrintDialogsTest::previewLooksLikeThePage()
+{
+    m_document.addNineKinds();
+    QCOMPARE(m_document.misplacedItems(previewed()), QStringList());
+}
+
+void PrintDialogsTest::previewShowsNoSelection()
+{
+    m_document.addNineKinds();
+    const QImage unselected = previewed();
+    for (QGraphicsItem *item : ItemProbe::documentItems(*m_document.window.scene))
+        item->setSelected(true);
+    QCOMPARE(previewed(), unselected);
+    QCOMPARE(m_document.window.scene->selectedItems().size(), 9);
+}
+
+/** Opens the page setup, chooses landscape, and ends it in one of its two ways. */
+void PrintDialogsTest::setUpLandscape(void (QDialog::*end)())
+{
+    trigger(pageSetupButton);
+    const QPointer<QDialog> dialog = m_document.window.findChild<QPageSetupDialog *>();
+    QVERIFY(dialog && dialog->isVisible());
+    ModalAnswer::whenOpen<QPageSetupDialog>([end](QPageSetupDialog &opened) {
+        QTest::mouseClick(opened.findChild<QRadioButton *>("landscape"), Qt::LeftButton);
+        (opened.*end)();
+    });
+    QTRY_VERIFY(!dialog);
+}
+
+/** A page setup made once holds for what is printed and previewed later. */
+void PrintDialogsTest::pageSetupTurnsThePaper()
+{
+    const QRectF item(100, 200, 300, 300);
+    m_document.addBlack(item);
+    QTest::ignoreMessage(QtDebugMsg, QRegularExpression("onPAgeSetupaccepted"));
+    setUpLandscape(&QDialog::accept);
+    QPrinter &printer = m_document.window.sharedPrinter();
+    QCOMPARE(printer.pageLayout().orientation(), QPageLayout::Landscape);
+    m_document.window.print(&printer);
+    const PdfFile pdf(m_document.pdfPath());
+    QCOMPARE(pdf.pageSizes(), QList<QSizeF>{QSizeF(792, 612)});
+    const QRectF printable = printer.pageLayout().paintRect(QPageLayout::Inch);
+    const QRectF expected = LetterDocument::onPaper(item, printable);
+    QVERIFY(expected.width() > 1.5 * expected.height());
+    QVERIFY(pdf.ink(1).intersected(expected).width() > 0.99 * expected.width());
+    QVERIFY(pdf.ink(1).united(expected).height() < 1.01 * expected.height());
+}
+
+void PrintDialogsTest::cancelledPageSetupChangesNothing()
+{
+    const QPageLayout before = m_document.window.sharedPrinter().pageLayout();
+    setUpLandscape(&QDialog::reject);
+    QCOMPARE(m_document.window.sharedPrinter().pageLayout(), before);
+}
+
+void PrintDialogsTest::pageSetupLeavesTheDocumentAlone()
+{
+    setUpLandscape(&QDialog::accept);
+    QCOMPARE(m_document.window.scene->paperRect, LetterDocument::sheet);
+    QCOMPARE(m_document.window.scene->pageRect, LetterDocument::frame);
+    QCOMPARE(m_document.window.scene->sceneRect(), QRectF(0, 0, 748, LetterDocument::pitch));
+}
+
+void PrintDialogsTest::printDialogPrints_data()
+{
+    QTest::addColumn<bool>("byButton");
+    QTest::newRow("by the button") << true;
+    QTest::newRow("by the slot") << false;
+}
+
+void PrintDialogsTest::printDialogPrints()
+{
+    QFETCH(bool, byButton);
+    m_document.clear(2);
+    const QString path = m_document.folder.filePath("chosen.pdf");
+    QFile::remove(path);
+    ModalAnswer::whenOpen<QPrintDialog>([this, path](QPrintDialog &dialog) {
+        QCOMPARE(dialog.parentWidget(), &m_document.window);
+        QCOMPARE(dialog.printer(), &m_document.window.sharedPrinter());
+        dialog.findChild<QLineEdit *>("filename")->setText(path);
+        dialog.accept();
+    });
+    if (byButton)
+        trigger(printButton);
+    else
+        m_document.window.filePrint();
+    QCOMPARE(PdfFile(path).pageCount(), 2);
+    QVERIFY(!QFile::exists(m_document.pdfPath()));
+}
+
+void PrintDialogsTest::cancelledPrintDialogPrintsNothing()
+{
+    ModalAnswer::whenOpen<QPrintDialog>([](QPrintDialog &dialog) { dialog.reject(); });
+    trigger(printButton);
+    QVERIFY(!QFile::exists(m_document.pdfPath()));
+}
+
+/** All pages are printed, whatever range were given. */
+void PrintDialogsTest::printDialogPromisesNoPartOfThePages()
+{
+    bool offersRange = true;
+    ModalAnswer::whenOpen<QPrintDialog>([&offersRange](QPrintDialog &dialog) {
+        offersRange = dialog.testOption(QPrintDialog::PrintPageRange);
+    });
+    trigger(printButton);
+    QVERIFY(!offersRange);
+}
+
+void PrintDialogsTest::uselessSlotDoesNothing()
+{
+    m_document.window.printer();
+    QVERIFY(!QFile::exists(m_document.pdfPath()));
+    QVERIFY(!QApplication::activeModalWidget());
+}
+
+TONQUILL_TEST_MAIN(PrintDialogsTest)
+#include "tst_printdialogs.moc"
