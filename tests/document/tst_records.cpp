@@ -139,11 +139,11 @@ void RecordsTest::textBlockGainsALineBreak()
 
 void RecordsTest::colorIsReadAsBlack()
 {
-    const Record read = parse("tonquill_text 0 0 1 1 a Arial 12 ffff0000 90\n");
+    const Record read = parse(u"tonquill_text 0 0 1 1 a Arial 12 ffff0000 90\n");
     QCOMPARE(as<Text>(read)->color, 0U);
     QCOMPARE(as<Text>(read)->rotation, 90.0);
     // Seven digits do fit.
-    QCOMPARE(as<Text>(parse("tonquill_text 0 0 1 1 a Arial 12 00ff00 0\n"))->color, 0xff00U);
+    QCOMPARE(as<Text>(parse(u"tonquill_text 0 0 1 1 a Arial 12 00ff00 0\n"))->color, 0xff00U);
 }
 
 void RecordsTest::rotation_data()
@@ -168,7 +168,7 @@ void RecordsTest::rotation()
 void RecordsTest::laterWordsShiftTheFieldsOfAText()
 {
     // The fields from 4 on: Allegro, moderato, Arial, 12, ff000000, 90.
-    const Record read = parse("tonquill_text 5 6 70 20 Allegro moderato Arial 12 ff000000 90\n");
+    const Record read = parse(u"tonquill_text 5 6 70 20 Allegro moderato Arial 12 ff000000 90\n");
     const auto *text = as<Text>(read);
     QVERIFY(text);
     QCOMPARE(text->text, QString("Allegro"));
@@ -180,12 +180,12 @@ void RecordsTest::laterWordsShiftTheFieldsOfAText()
 
 void RecordsTest::twoBlanksHaveAnEmptyFieldBetweenThem()
 {
-    const Record glyph = parse("tonquill_bitmap 17  300 1\n");
+    const Record glyph = parse(u"tonquill_bitmap 17  300 1\n");
     QVERIFY(as<Bitmap>(glyph));
     QCOMPARE(as<Bitmap>(glyph)->x, 0);
     QCOMPARE(as<Bitmap>(glyph)->y, 300);
     QCOMPARE(as<Bitmap>(glyph)->inverted, true);
-    const Record text = parse("tonquill_text 0 0 1 1  Arial 12 0 0\n");
+    const Record text = parse(u"tonquill_text 0 0 1 1  Arial 12 0 0\n");
     QVERIFY(as<Text>(text));
     QCOMPARE(as<Text>(text)->text, QString());
     QCOMPARE(as<Text>(text)->family, QString("Arial"));
@@ -287,10 +287,10 @@ void RecordsTest::blockEndsAtTheFirstEndKeyword()
 
 void RecordsTest::keywordIsWhatStandsBeforeTheFirstBlank()
 {
-    QCOMPARE(keywordOf("tonquill_bitmap 1"), QString("tonquill_bitmap"));
-    QCOMPARE(keywordOf("tonquill_bitmap"), QString());
-    QCOMPARE(keywordOf(" 1"), QString());
-    QCOMPARE(keywordOf("a\nb c"), QString("a\nb"));
+    QCOMPARE(keywordOf(u"tonquill_bitmap 1"), QString("tonquill_bitmap"));
+    QCOMPARE(keywordOf(u"tonquill_bitmap"), QString());
+    QCOMPARE(keywordOf(u" 1"), QString());
+    QCOMPARE(keywordOf(u"a\nb c"), QString("a\nb"));
 }
 
 QTEST_GUILESS_MAIN(RecordsTest)
