@@ -19,6 +19,10 @@ TonquillView::TonquillView(QWidget *parent)
     setViewportUpdateMode(FullViewportUpdate);
     scale(1.0, 1.0);
     setAlignment(Qt::AlignTop);
+    // Paper is white and ink black whatever the desktop's colours are.
+    QPalette paper = viewport()->palette();
+    paper.setColor(QPalette::Base, Qt::white);
+    viewport()->setPalette(paper);
 }
 
 QPointF TonquillView::curScenePos() const

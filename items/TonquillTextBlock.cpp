@@ -42,6 +42,8 @@ TonquillTextBlock::TonquillTextBlock(bool adding, const QString &text, const QRe
     setZValue(symbolZValue);
     m_frame.setZValue(0.0);
     setSelected(adding);
+    if (defaultTextColor() != Qt::black)
+        setDefaultTextColor(Qt::black); // on a dark desktop it would be that of the windows
 
     QSizeF size = rect.size();
     if (!text.isEmpty() || rect.width() != 0.0 || rect.height() != 0.0) {

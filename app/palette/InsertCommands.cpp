@@ -58,6 +58,7 @@ void InsertCommands::tempo(const QString &term)
     auto *item = new TonquillText(true);
     item->setFont(QFont(QStringLiteral("Arial"), 12));
     item->setPlainText(term);
+    item->setDefaultTextColor(Qt::black);
     addText(item);
     item->updateFrame();
 }
