@@ -3,6 +3,7 @@
 #include "TonquillBitmap.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
+#include "TonquillTextBlock.h"
 #include "TonquillView.h"
 #include "ui_TonquillMainWin.h"
 
@@ -25,6 +26,7 @@ private Q_SLOTS:
     void pageControlsShowTheirTexts_data();
     void pageControlsShowTheirTexts();
     void labelSaysOnePageAtStart();
+    void paperIsWhiteAndInkBlackOnADarkDesktop();
     void spinBoxKeepsItsDefaultRange();
     void toolBarsStandOnTwoRows();
     void toolBarsStay_data();
@@ -291,6 +293,22 @@ void MainWindowTest::startsWithoutAHost()
     window.show();
     QVERIFY(window.isVisible());
     QVERIFY(window.socket.state() != QLocalSocket::ConnectedState);
+}
+
+void MainWindowTest::paperIsWhiteAndInkBlackOnADarkDesktop()
+{
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette(Qt::white, QColor(30, 30, 30), Qt::white, Qt::black, Qt::gray,
+                                      Qt::white, QColor(30, 30, 30)));
+    {
+        TonquillMainWin window;
+        window.show();
+        const QPoint middle = window.view()->viewport()->rect().center();
+        QCOMPARE(window.view()->viewport()->grab().toImage().pixelColor(middle), QColor(Qt::white));
+        const TonquillTextBlock block(false, "Verse", QRectF(0, 0, 100, 20));
+        QCOMPARE(block.defaultTextColor(), QColor(Qt::black));
+    }
+    QApplication::setPalette(before);
 }
 
 TONQUILL_TEST_MAIN(MainWindowTest)
