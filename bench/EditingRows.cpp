@@ -14,6 +14,12 @@ namespace
 constexpr int fewItems = 100;
 constexpr int steps = 1000;
 
+/** On its way across the page the pointer meets as many items as in the document of few. */
+QPointF onTheWay(int step)
+{
+    return QPointF(step % 600, 100);
+}
+
 /** From the left button's release to the last byte given to the system. */
 double finishEdit(int count)
 {
@@ -103,8 +109,8 @@ double movePointer(int count)
     editor.load(SampleDocument::glyphs(count));
     selectOneItem(editor);
     ScenePointer pointer(editor.scene());
-    int x = 0;
-    return cpuSecondsOfOne(steps, [&] { pointer.moveTo(QPointF(x++ % 600, 300)); });
+    int step = 0;
+    return cpuSecondsOfOne(steps, [&] { pointer.moveTo(onTheWay(step++)); });
 }
 
 /** A move of the pointer that drags the selected item. */
@@ -115,8 +121,8 @@ double dragItem(int count)
     selectOneItem(editor);
     ScenePointer pointer(editor.scene());
     pointer.press(SampleDocument::glyphs(1).front().position);
-    int x = 0;
-    return cpuSecondsOfOne(steps, [&] { pointer.moveTo(QPointF(x++ % 600, 300)); });
+    int step = 0;
+    return cpuSecondsOfOne(steps, [&] { pointer.moveTo(onTheWay(step++)); });
 }
 
 double pressArrow(int count)

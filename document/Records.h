@@ -94,6 +94,9 @@ Record parse(QStringView record);
 /** The keyword of a record: the text before its first blank, or nothing. */
 QStringView keywordOf(QStringView record);
 
+/** Takes the first of the records, which are separated by "|", off the front of `records`. */
+QStringView takeFirst(QStringView &records);
+
 /** The line with which a document begins. */
 QString pageCountLine(int pageCount);
 

@@ -43,12 +43,28 @@ TonquillScene::~TonquillScene()
 void TonquillScene::addNewItem(QGraphicsItem *item)
 {
     addItem(item);
+    ++m_addedItems;
+    fitIndexToItems();
     // Of a document only the last item is remembered: watching each in turn would cost as much
     // memory and time as two of its coordinates.
     if (m_isBuildingDocument)
         m_lastBuilt = item;
     else
         m_lastAdded = ItemReference(item);
+}
+
+/**
+ * The toolkit chooses the depth of its index for the items that it finds when it first needs it,
+ * and keeps to it whatever comes: found for ten items, it would search tens of thousands at every
+ * move of the pointer. So it is told to choose anew whenever their number has doubled.
+ */
+void TonquillScene::fitIndexToItems()
+{
+    constexpr qsizetype fewItems = 64;
+    if (m_addedItems <= m_indexFitsUpTo)
+        return;
+    m_indexFitsUpTo = qMax(fewItems, 2 * m_addedItems);
+    setBspTreeDepth(0);
 }
 
 void TonquillScene::itemAwaitsPlacing(QGraphicsItem *item, QObject *object)

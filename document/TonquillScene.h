@@ -126,6 +126,7 @@ private:
     static QString recordOf(QObject *item);
 
     // Items
+    void fitIndexToItems();
     void moveToFrontOfToolkitsList(const QList<QGraphicsItem *> &items);
 
     // Pointer
@@ -148,6 +149,8 @@ private:
     void copySelection();
     void addSameItem();
 
+    qsizetype m_addedItems = 0; ///< since the scene was cleared
+    qsizetype m_indexFitsUpTo = 0;
     ItemReference m_lastAdded;
     bool m_isBuildingDocument = false;
     QGraphicsItem *m_lastBuilt = nullptr; ///< while a document is built

@@ -89,6 +89,8 @@ void TonquillScene::clearScene()
     m_waiting.clear();
     clearSelection();
     clear();
+    m_addedItems = 0;
+    m_indexFitsUpTo = 0;
     if (g_pMainWin->pageCount < 2)
         return;
     g_pMainWin->pageCount = 1;

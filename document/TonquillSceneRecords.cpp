@@ -50,7 +50,8 @@ void TonquillScene::constructDocument(QStringView records)
 {
     m_lastBuilt = nullptr;
     m_isBuildingDocument = true;
-    for (const QStringView record : records.tokenize(u'|')) {
+    while (!records.isEmpty()) {
+        const QStringView record = Records::takeFirst(records);
         qCDebug(lcRecords) << "conxtructitem itemname" << Records::keywordOf(record);
         build(Records::parse(record), false, 0);
     }

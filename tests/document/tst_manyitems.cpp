@@ -12,6 +12,7 @@ class ManyItemsTest : public QObject
 private Q_SLOTS:
     void deletingVeryManyLeavesTheOthers();
     void spaceRepeatsTheLastItemOfADocument();
+    void theIndexGrowsWithTheDocument();
 
 private:
     static QString glyphs(int count, int x);
@@ -52,6 +53,28 @@ void ManyItemsTest::spaceRepeatsTheLastItemOfADocument()
     const QString document = scene.notifyTW();
     QCOMPARE(document.count(QStringLiteral("tonquill_timesig")), 2);
     QCOMPARE(document.count(QStringLiteral("tonquill_bitmap")), 1);
+}
+
+void ManyItemsTest::theIndexGrowsWithTheDocument()
+{
+    TonquillMainWin window;
+    TonquillScene &scene = *window.scene;
+    const auto depthOnceUsed = [&scene] {
+        scene.itemAt(QPointF(), QTransform());
+        return scene.bspTreeDepth();
+    };
+    scene.constructDocument(glyphs(5, 100));
+    const int ofFew = depthOnceUsed();
+
+    // Built over the small document, as a paste or a host's extension does it: each level halves
+    // the search, so 4096 items take the twelfth.
+    scene.constructDocument(glyphs(4096, 100));
+    const int ofMany = depthOnceUsed();
+    QVERIFY2(ofFew < 12 && ofMany >= 12, qPrintable(QStringLiteral("%1 %2").arg(ofFew).arg(ofMany)));
+
+    scene.clearScene();
+    scene.constructDocument(glyphs(5, 100));
+    QCOMPARE(depthOnceUsed(), ofFew);
 }
 
 TONQUILL_TEST_MAIN(ManyItemsTest)
