@@ -46,6 +46,11 @@ BareScene::BareScene(int count, Glyphs glyphs)
                  SampleDocument::pagesFor(count) * g_pMainWin->scene->pagePitch());
 }
 
+BareScene::~BareScene()
+{
+    settle();
+}
+
 void BareScene::addBareItems(const SampleDocument::Samples &samples)
 {
     for (const Sample &sample : samples) {

@@ -18,6 +18,7 @@ public:
 
     /** Empty, as large as the pages that `count` items take. */
     explicit BareScene(int count, Glyphs glyphs = Glyphs::Plain);
+    ~BareScene() override;
 
     void addBareItems(const SampleDocument::Samples &samples);
 

@@ -23,17 +23,18 @@ double receive(const Samples &samples)
     return cpuSeconds([&] { editor.receiveDocumentInPlaceOf(old); });
 }
 
-double addBareItems(const Samples &samples)
+double addBareItems(const Samples &samples, BareScene::Glyphs glyphs)
 {
-    BareScene scene(static_cast<int>(samples.size()));
+    BareScene scene(static_cast<int>(samples.size()), glyphs);
     return cpuSeconds([&] { scene.addBareItems(samples); });
 }
 
-void compareReceiving(const char *operation, MakeSamples make, const std::vector<int> &counts)
+void compareReceiving(const char *operation, MakeSamples make, BareScene::Glyphs glyphs,
+                      const std::vector<int> &counts)
 {
     compare({.operation = operation,
              .ours = [make](int count) { return receive(make(count)); },
-             .floor = [make](int count) { return addBareItems(make(count)); },
+             .floor = [make, glyphs](int count) { return addBareItems(make(count), glyphs); },
              .counts = counts});
 }
 
@@ -69,8 +70,11 @@ double deleteEverySecondItem(int count)
 void Rows::addDocument()
 {
     compareReceiving("receive a document of glyphs", SampleDocument::glyphs,
-                     {1000, 10000, 50000, 100000});
-    compareReceiving("receive a document of all kinds", SampleDocument::mix, {1000, 10000, 100000});
+                     BareScene::Glyphs::CallableByName, {1000, 10000, 50000, 100000});
+    compareReceiving("receive a document of all kinds", SampleDocument::mix,
+                     BareScene::Glyphs::CallableByName, {1000, 10000, 100000});
+    compareReceiving("receive glyphs, held against plain pictures", SampleDocument::glyphs,
+                     BareScene::Glyphs::Plain, {50000, 100000});
     compare({.operation = "clear the scene", .ours = clear, .floor = clearBare});
     compare({.operation = "delete a selection of half the items",
              .ours = deleteEverySecondItem,

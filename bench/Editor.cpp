@@ -22,6 +22,8 @@ Editor::~Editor()
         window().socket.disconnectFromServer();
         m_host.reset();
     }
+    // First what the toolkit puts off: it looks for each item that goes among all that still wait.
+    QCoreApplication::processEvents();
     scene().clearScene();
     QCoreApplication::processEvents();
 }

@@ -122,8 +122,7 @@ void TonquillScene::buildText(const Records::Text &record, bool adding, int offs
     item->setPlainText(record.text);
     item->setDefaultTextColor(QColor(record.color));
     item->setSelected(adding);
-    connect(item, SIGNAL(showTextItemMenu(TonquillText *)), this,
-            SLOT(onTextItemContextMenu(TonquillText *)));
+    connect(item, &TonquillText::showTextItemMenu, this, &TonquillScene::onTextItemContextMenu);
     addNewItem(item);
     item->setRotation(record.rotation);
     item->updateFrame();

@@ -45,20 +45,24 @@ TonquillTextBlock::TonquillTextBlock(bool adding, const QString &text, const QRe
     if (defaultTextColor() != Qt::black)
         setDefaultTextColor(Qt::black); // on a dark desktop it would be that of the windows
 
-    QSizeF size = rect.size();
     if (!text.isEmpty() || rect.width() != 0.0 || rect.height() != 0.0) {
-        setPlainText(text);
+        fitTo(rect.size());
+        setPlainText(text); // into its width at once: laying text out is what costs most here
     } else {
         setPlainText(placeholder());
-        size = document()->size();
+        fitTo(document()->size());
     }
-    setCorners(QPointF(0, 0), QPointF(size.width() + widthBesideText, size.height()));
-    fitTextToWidth();
     setTextInteractionFlags(Qt::NoTextInteraction);
     setData(ItemData::keyword, Records::textblockKeyword());
 }
 
 TonquillTextBlock::~TonquillTextBlock() = default;
+
+void TonquillTextBlock::fitTo(QSizeF textSize)
+{
+    setCorners(QPointF(0, 0), QPointF(textSize.width() + widthBesideText, textSize.height()));
+    fitTextToWidth();
+}
 
 /** The menu runs until it is closed; a document that arrives meanwhile takes this block away. */
 void TonquillTextBlock::openSizeMenu()

@@ -77,6 +77,7 @@ private:
     void resizeTo(QPointF corner);
     void finishDrag();
     void letOthersPaintAndFitText();
+    void fitTo(QSizeF textSize);
     void fitTextToWidth();
     void followTyping();
 

@@ -65,8 +65,8 @@ void InsertCommands::tempo(const QString &term)
 
 void InsertCommands::addText(TonquillText *item)
 {
-    QObject::connect(item, SIGNAL(showTextItemMenu(TonquillText *)), &scene(),
-                     SLOT(onTextItemContextMenu(TonquillText *)));
+    QObject::connect(item, &TonquillText::showTextItemMenu, &scene(),
+                     &TonquillScene::onTextItemContextMenu);
     scene().addNewItem(item);
 }
 
