@@ -17,7 +17,7 @@ public:
     enum class Glyphs { Plain, CallableByName };
 
     /** Empty, as large as the pages that `count` items take. */
-    explicit BareScene(int count, Glyphs glyphs = Glyphs::Plain);
+    explicit BareScene(int count, Glyphs glyphs = Glyphs::CallableByName);
     ~BareScene() override;
 
     void addBareItems(const SampleDocument::Samples &samples);

@@ -12,6 +12,9 @@
 
 namespace
 {
+/** Up to about this number, taking items off the index one by one costs less than searching it. */
+constexpr qsizetype someItems = 1000;
+
 /** From this number on, removing items one by one costs more than sorting them first. */
 constexpr qsizetype manyItems = 20000;
 
@@ -98,6 +101,10 @@ void TonquillScene::destroyItems(const QList<QGraphicsItem *> &items)
 {
     if (items.size() >= manyItems)
         moveToFrontOfToolkitsList(items);
+    // An item that is deleted while it stands on the scene can no longer say where it is: the
+    // toolkit then goes through the whole of its index, once for however many.
+    if (items.size() < someItems)
+        std::for_each(items.cbegin(), items.cend(), [this](auto *item) { removeItem(item); });
     qDeleteAll(items);
     update();
 }

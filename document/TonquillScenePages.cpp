@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <algorithm>
+
 void TonquillScene::resizeToPages()
 {
     setSceneRect(0, 0, paperRect.width(), g_pMainWin->pageCount * pagePitch());
@@ -59,26 +61,40 @@ void TonquillScene::insertPageAt(double top)
 {
     ++g_pMainWin->pageCount;
     const QRectF old = sceneRect();
-    const QRectF area(0, truncatedToInt(top), paperRect.width(), old.height());
+    const QList<QGraphicsItem *> moving =
+        topLevelItemsIn(QRectF(0, truncatedToInt(top), paperRect.width(), old.height()));
     setSceneRect(0, 0, old.width(), old.height() + pagePitch());
-    for (QGraphicsItem *item : topLevelItemsIn(area))
-        item->setPos(item->x() + 0.0, item->y() + pagePitch());
+    moveDown(moving, pagePitch());
+}
+
+/**
+ * To be called after the scene's rectangle was set, which drops the toolkit's index: until that,
+ * each item that moves is taken out of the index by itself.
+ */
+void TonquillScene::moveDown(const QList<QGraphicsItem *> &items, double way)
+{
+    for (QGraphicsItem *item : items)
+        item->setPos(item->x() + 0.0, item->y() + way);
 }
 
 void TonquillScene::deletePage(int page)
 {
-    destroyItems(topLevelItemsIn(QRectF(0, truncatedToInt((page - 1) * pagePitch()),
-                                        paperRect.width(), paperRect.height())));
+    const QRectF area(0, truncatedToInt((page - 1) * pagePitch()), paperRect.width(),
+                      paperRect.height());
+    QList<QGraphicsItem *> deleted = topLevelItemsIn(area);
+    // The undermost first: taken off in that order, each is found at once, for it is the oldest.
+    std::reverse(deleted.begin(), deleted.end());
+    destroyItems(deleted);
     if (g_pMainWin->pageCount < 2)
         return;
     --g_pMainWin->pageCount;
     const QRectF old = sceneRect();
     // The shift is meant: items land two gaps lower on their new page than they stood before.
     const double shift = pageSpacing - paperRect.height();
-    const QRectF area(0, truncatedToInt(page * pagePitch()), paperRect.width(), old.height());
-    for (QGraphicsItem *item : topLevelItemsIn(area))
-        item->setPos(item->x() + 0.0, item->y() + shift);
+    const QList<QGraphicsItem *> moving = topLevelItemsIn(
+        QRectF(0, truncatedToInt(page * pagePitch()), paperRect.width(), old.height()));
     setSceneRect(0, 0, old.width(), old.height() - pagePitch());
+    moveDown(moving, shift);
 }
 
 void TonquillScene::clearScene()
