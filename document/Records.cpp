@@ -17,7 +17,8 @@ constexpr qsizetype mostFields = 9;
 /** A number of so many digits fits an int, whatever the digits. */
 constexpr qsizetype mostPlainDigits = 9;
 
-/** Where `text` has `character` first, or its end; fields are short, and indexOf() starts slowly. */
+/** Where `text` has `character` first, or its end; fields are short, and indexOf() starts slowly.
+ */
 qsizetype positionOf(char16_t character, QStringView text)
 {
     return std::find(text.utf16(), text.utf16() + text.size(), character) - text.utf16();
@@ -151,36 +152,36 @@ const QList<Reader> &readers()
 class RecordLine
 {
 public:
-    explicit RecordLine(const QString &keyword)
-    {
-        m_line.reserve(64);
-        m_line += keyword;
-    }
+    explicit RecordLine(const QString &keyword) { append(keyword); }
 
     RecordLine &operator<<(int number)
     {
         std::array<char, 12> digits;
         const auto end = std::to_chars(digits.begin(), digits.end(), number).ptr;
-        m_line += u' ';
-        m_line += QLatin1String(digits.begin(), end);
+        m_line.append(u' ');
+        std::for_each(digits.begin(), end,
+                      [this](char digit) { m_line.append(QLatin1Char(digit)); });
         return *this;
     }
 
     RecordLine &operator<<(const QString &text)
     {
-        m_line += u' ';
-        m_line += text;
+        m_line.append(u' ');
+        append(text);
         return *this;
     }
 
     QString ended()
     {
-        m_line += u'\n';
-        return std::move(m_line);
+        m_line.append(u'\n');
+        return QString(m_line.constData(), m_line.size());
     }
 
 private:
-    QString m_line;
+    void append(const QString &text) { m_line.append(text.constData(), text.size()); }
+
+    /** Grown in place: a QString would look at itself with every character. */
+    QVarLengthArray<QChar, 64> m_line;
 };
 } // namespace
 
