@@ -14,7 +14,6 @@ TonquillBitmap::TonquillBitmap(const QPixmap &pixmap, int symbolId, bool adding,
     : QGraphicsPixmapItem(pixmap, parent)
     , m_itemStatus(adding ? ItemStatus::Adding : ItemStatus::Placed)
     , m_frame(this)
-    , m_symbolId(symbolId)
     , m_otherPixmap(std::move(invertedPixmap))
 {
     setFlags(ItemIsMovable | ItemIsSelectable);
@@ -23,7 +22,7 @@ TonquillBitmap::TonquillBitmap(const QPixmap &pixmap, int symbolId, bool adding,
     setSelected(adding);
     setZValue(symbolZValue);
     m_frame.addAnchor(boundingRect().topLeft());
-    setData(ItemData::symbolId, m_symbolId);
+    setData(ItemData::symbolId, symbolId);
     setData(ItemData::keyword, Records::bitmapKeyword());
 }
 

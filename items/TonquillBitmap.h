@@ -57,9 +57,8 @@ private:
                    const QStyleOptionGraphicsItem &option) const;
 
     ItemStatus m_itemStatus;
+    bool m_inverted = false;
     QPointF m_lastPointer;
     SelectionFrame m_frame;
-    int m_symbolId;
     QPixmap m_otherPixmap; ///< the one that is not shown: the inverted one or the normal one
-    bool m_inverted = false;
 };
