@@ -4,30 +4,16 @@
 #include "Probe.h"
 #include "Rows.h"
 
-#include <QFile>
-
-#include <malloc.h>
-#include <unistd.h>
-
 namespace
 {
 const QString oursProbe = QStringLiteral("memory");
 const QString floorProbe = QStringLiteral("memory-floor");
 
-double residentBytes()
-{
-    malloc_trim(0);
-    QFile statm(QStringLiteral("/proc/self/statm"));
-    if (!statm.open(QIODevice::ReadOnly))
-        qFatal("/proc/self/statm cannot be read");
-    return statm.readAll().split(' ').at(1).toDouble() * double(sysconf(_SC_PAGESIZE));
-}
-
 double growthPerItem(int count, const std::function<void()> &build)
 {
-    const double before = residentBytes();
+    const double before = Probe::residentBytes();
     build();
-    return (residentBytes() - before) / count;
+    return (Probe::residentBytes() - before) / count;
 }
 
 double memoryOfOurs(int count)

@@ -1,13 +1,16 @@
 #include "Probe.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QHash>
 #include <QProcess>
 #include <QStringList>
 
 #include <cstdio>
 
+#include <malloc.h>
 #include <sys/resource.h>
+#include <unistd.h>
 
 namespace
 {
@@ -17,16 +20,23 @@ QHash<QString, Probe::Work> &probes()
     return known;
 }
 
-QByteArray outputOf(const QString &name, int count)
+constexpr const char *sharedFolderVariable = "TONQUILL_BENCH_FOLDER";
+
+QByteArray outputOf(const QString &program, const QStringList &arguments)
 {
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(
+    process.start(program, arguments);
+    if (!process.waitForFinished(-1) || process.exitCode() != 0)
+        qFatal("%s %s failed", qPrintable(program), qPrintable(arguments.join(u' ')));
+    return process.readAllStandardOutput();
+}
+
+QByteArray outputOf(const QString &name, int count)
+{
+    return outputOf(
         QCoreApplication::applicationFilePath(),
         {"--" + Probe::option().names().constFirst(), name + u':' + QString::number(count)});
-    if (!process.waitForFinished(-1) || process.exitCode() != 0)
-        qFatal("the probe %s failed", qPrintable(name));
-    return process.readAllStandardOutput();
 }
 
 /** The CPU time of all child processes that have ended. */
@@ -74,4 +84,31 @@ double Probe::cpuSecondsOf(const QString &name, int count)
     const double before = childrensSeconds();
     outputOf(name, count);
     return childrensSeconds() - before;
+}
+
+double Probe::cpuSecondsOfProgram(const QString &program, const QStringList &arguments)
+{
+    const double before = childrensSeconds();
+    outputOf(QCoreApplication::applicationDirPath() + u'/' + program, arguments);
+    return childrensSeconds() - before;
+}
+
+double Probe::residentBytes()
+{
+    malloc_trim(0);
+    QFile statm(QStringLiteral("/proc/self/statm"));
+    if (!statm.open(QIODevice::ReadOnly))
+        qFatal("/proc/self/statm cannot be read");
+    return statm.readAll().split(' ').at(1).toDouble() * double(sysconf(_SC_PAGESIZE));
+}
+
+void Probe::shareFolder(const QString &path)
+{
+    if (!qEnvironmentVariableIsSet(sharedFolderVariable))
+        qputenv(sharedFolderVariable, QFile::encodeName(path));
+}
+
+QString Probe::sharedFolder()
+{
+    return QFile::decodeName(qgetenv(sharedFolderVariable));
 }

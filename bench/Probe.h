@@ -2,6 +2,7 @@
 
 #include <QCommandLineOption>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -28,4 +29,16 @@ double valueOf(const QString &name, int count);
 
 /** The CPU time that such a process takes in all, from exec to exit. Seconds. */
 double cpuSecondsOf(const QString &name, int count);
+
+/** The same for one of the programs that were built beside this one. */
+double cpuSecondsOfProgram(const QString &program, const QStringList &arguments);
+
+/** The memory of this process that is in use now. */
+double residentBytes();
+
+/** Makes `path` the folder of files for the probes, unless this process is one. */
+void shareFolder(const QString &path);
+
+/** The folder that was shared, the same in this process and its probes. */
+QString sharedFolder();
 } // namespace Probe

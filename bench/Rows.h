@@ -10,4 +10,5 @@ void addPainting(); ///< repainting the view
 void addPrinting(); ///< printing to PDF
 void addMemory();   ///< resident memory of an item
 void addStart();    ///< from exec to the first painted frame
+void addSolo();     ///< undo, opening and exporting of the program of its own
 } // namespace Rows

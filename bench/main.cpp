@@ -20,6 +20,7 @@ void addRows()
     Rows::addPrinting();
     Rows::addMemory();
     Rows::addStart();
+    Rows::addSolo();
 }
 
 /**
@@ -44,6 +45,7 @@ int main(int argc, char *argv[])
     // The host's socket lives in the temporary folder; a real host must not be met.
     const QTemporaryDir temporary(QStringLiteral("/tmp/tonquill-bench-XXXXXX"));
     qputenv("TMPDIR", temporary.path().toLocal8Bit());
+    Probe::shareFolder(temporary.path());
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QLoggingCategory::setFilterRules("tonquill.debug=false");
     QApplication application(argc, argv);
