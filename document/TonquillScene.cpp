@@ -70,6 +70,12 @@ void TonquillScene::fitIndexToItems()
     setBspTreeDepth(0);
 }
 
+QList<QGraphicsItem *> TonquillScene::itemsFromTop() const
+{
+    itemAt(QPointF(), QTransform()); // brings the index up to date
+    return items();
+}
+
 void TonquillScene::itemAwaitsPlacing(QGraphicsItem *item, QObject *object)
 {
     Q_UNUSED(object);

@@ -19,7 +19,7 @@ constexpr qsizetype typicalRecordSize = 32;
 QString TonquillScene::notifyTW()
 {
     QString document = Records::pageCountLine(g_pMainWin->pageCount);
-    const QList<QGraphicsItem *> all = items();
+    const QList<QGraphicsItem *> all = itemsFromTop();
     document.reserve(document.size() + all.size() * typicalRecordSize / 2);
     for (QGraphicsItem *item : all) {
         if (QObject *object = ItemReference::objectOf(item)) {

@@ -11,18 +11,11 @@
 #include <QScrollBar>
 #include <QSet>
 
+#include <algorithm>
 #include <cmath>
 
 namespace
 {
-/** Every item that a record can be written of, from the lowest to the topmost. */
-QList<QGraphicsItem *> documentItems(const TonquillScene &scene)
-{
-    QList<QGraphicsItem *> result = scene.items(Qt::AscendingOrder);
-    result.removeIf([](const QGraphicsItem *item) { return item->parentItem() != nullptr; });
-    return result;
-}
-
 /** Scene units are 1/88 inch across and 1/90 inch down. */
 QSizeF inInches(QSizeF units)
 {
@@ -72,6 +65,14 @@ void buildItems(TonquillMainWin &window, const QList<QByteArray> &lines,
 }
 } // namespace
 
+QList<QGraphicsItem *> DocumentSnapshot::itemsOf(const TonquillMainWin &window)
+{
+    QList<QGraphicsItem *> result = window.scene->itemsFromTop();
+    result.removeIf([](const QGraphicsItem *item) { return item->parentItem() != nullptr; });
+    std::reverse(result.begin(), result.end());
+    return result;
+}
+
 Paper DocumentSnapshot::paperOf(const TonquillMainWin &window)
 {
     return Paper{window.scene->paperRect.size(), window.scene->pageRect};
@@ -80,7 +81,7 @@ Paper DocumentSnapshot::paperOf(const TonquillMainWin &window)
 DocumentSnapshot DocumentSnapshot::capture(const TonquillMainWin &window)
 {
     DocumentSnapshot snapshot{paperOf(window), window.pageCount, {}};
-    for (const QGraphicsItem *item : documentItems(*window.scene)) {
+    for (const QGraphicsItem *item : itemsOf(window)) {
         if (const auto state = SceneItems::stateOf(item))
             snapshot.items.append(ItemRecords::format(*state));
     }
@@ -110,8 +111,8 @@ QList<qsizetype> DocumentSnapshot::selectionOf(const TonquillMainWin &window)
     if (window.scene->selectedItems().isEmpty())
         return result;
     qsizetype index = 0;
-    for (const QGraphicsItem *item : documentItems(*window.scene)) {
-        if (!SceneItems::stateOf(item))
+    for (const QGraphicsItem *item : itemsOf(window)) {
+        if (!SceneItems::hasState(item))
             continue;
         if (item->isSelected())
             result.append(index);

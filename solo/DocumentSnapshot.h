@@ -5,6 +5,7 @@
 #include <QRectF>
 #include <QSizeF>
 
+class QGraphicsItem;
 class TonquillMainWin;
 
 /** The paper that a document is laid out on, in scene units. */
@@ -35,6 +36,9 @@ struct DocumentSnapshot
      * items with an index in `selected` are selected.
      */
     void restore(TonquillMainWin &window, const QList<qsizetype> &selected = {}) const;
+
+    /** The items on the window's pages, from the lowest to the topmost; none that is another's. */
+    static QList<QGraphicsItem *> itemsOf(const TonquillMainWin &window);
 
     /** The window's paper. */
     static Paper paperOf(const TonquillMainWin &window);

@@ -1,5 +1,6 @@
 #include "EditWatcher.h"
 
+#include "DocumentPatch.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 #include "TonquillTextBlock.h"
@@ -113,9 +114,8 @@ bool EditWatcher::undo()
     check();
     if (!m_history.canUndo())
         return false;
-    const QList<qsizetype> selected = DocumentSnapshot::selectionOf(m_window);
     m_history.undo();
-    restoreCurrent(selected);
+    showCurrent();
     return true;
 }
 
@@ -124,17 +124,22 @@ bool EditWatcher::redo()
     check();
     if (!m_history.canRedo())
         return false;
-    const QList<qsizetype> selected = DocumentSnapshot::selectionOf(m_window);
     m_history.redo();
-    restoreCurrent(selected);
+    showCurrent();
     return true;
 }
 
-void EditWatcher::restoreCurrent(const QList<qsizetype> &selectedBefore)
+void EditWatcher::showCurrent()
 {
     m_typedIn.clear();
-    m_history.current().restore(m_window, m_history.followed(selectedBefore));
     // What the toolkit tells differently after rebuilding, such as formatted text, is no edit.
-    m_history.adopt(DocumentSnapshot::capture(m_window));
+    if (const auto shown =
+            DocumentPatch::apply(m_window, m_history.lastHunks(), m_history.current())) {
+        m_history.adopt(*shown);
+    } else {
+        const QList<qsizetype> selected = DocumentSnapshot::selectionOf(m_window);
+        m_history.current().restore(m_window, m_history.followed(selected));
+        m_history.adopt(DocumentSnapshot::capture(m_window));
+    }
     Q_EMIT documentChanged();
 }

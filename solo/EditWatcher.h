@@ -53,7 +53,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void restoreCurrent(const QList<qsizetype> &selectedBefore);
+    void showCurrent();
     bool continuesTyping();
 
     TonquillMainWin &m_window;

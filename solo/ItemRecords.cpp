@@ -30,13 +30,22 @@ class Line
 {
 public:
     Line(const QString &keyword, QPointF position)
-        : m_text(keyword + u' ' + point(position))
-    {}
+    {
+        constexpr qsizetype typicalLine = 48;
+        m_text.reserve(typicalLine);
+        m_text += keyword;
+        *this << position;
+    }
 
     Line &operator<<(const QString &field)
     {
-        m_text += u' ' + field;
+        m_text += u' ';
+        m_text += field;
         return *this;
+    }
+    Line &operator<<(QPointF p)
+    {
+        return *this << ItemRecords::number(p.x()) << ItemRecords::number(p.y());
     }
     Line &named(const QString &name, const QString &value) { return *this << name + u'=' + value; }
     Line &quoted(const QString &name, const QString &value)
@@ -87,7 +96,7 @@ QByteArray formatOne(const TimeSignature &time)
 QByteArray formatOne(const Figure &figure)
 {
     Line line(figure.keyword, figure.position);
-    line << point(figure.start) << point(figure.end);
+    line << figure.start << figure.end;
     if (figure.anchors)
         line.quoted(QStringLiteral("anchors"),
                     point(figure.anchors->first) + u' ' + point(figure.anchors->second));
@@ -108,7 +117,7 @@ QByteArray formatOne(const Text &text)
 QByteArray formatOne(const TextBlock &block)
 {
     Line line(blockKeyword(), block.position);
-    line << point(block.topLeft) << point(block.bottomRight);
+    line << block.topLeft << block.bottomRight;
     line.named(QStringLiteral("wrap"), ItemRecords::number(block.textWidth));
     appendFont(line, block.font);
     return line.quoted(block.isHtml ? QStringLiteral("html") : QStringLiteral("text"), block.text)
@@ -254,8 +263,12 @@ const QHash<QString, ReadItem> &readers()
 
 QString ItemRecords::number(double value)
 {
-    // No "-0", which equals 0 but is another text.
-    return QString::number(value == 0 ? 0.0 : value, 'g', QLocale::FloatingPointShortest);
+    // Most numbers are whole, and those are quickly written. It has no "-0", which equals 0 but is
+    // another text.
+    constexpr double mostWhole = 99999;
+    if (std::fabs(value) <= mostWhole && value == std::trunc(value))
+        return QString::number(int(value));
+    return QString::number(value, 'g', QLocale::FloatingPointShortest);
 }
 
 std::optional<double> ItemRecords::toNumber(const QString &text)

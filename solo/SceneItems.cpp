@@ -18,12 +18,6 @@ namespace
 {
 using namespace ItemState;
 
-ItemStatus statusOf(const QGraphicsItem *item)
-{
-    const QObject *object = ItemReference::objectOf(const_cast<QGraphicsItem *>(item));
-    return ItemStatus(object ? object->property("itemStatus").toInt() : 0);
-}
-
 Font stateOfFont(const QFont &font)
 {
     const bool inPixels = font.pointSizeF() <= 0;
@@ -77,23 +71,23 @@ SelectionFrame *frameOf(const QGraphicsItem *item)
     return nullptr;
 }
 
-Any stateOfGlyph(const TonquillBitmap &item)
+std::optional<Any> stateOfOne(const TonquillBitmap &item)
 {
     return Glyph{item.pos(), item.data(ItemData::symbolId).toInt(), item.isInverted()};
 }
 
-Any stateOfTime(const TonquillTimeSig &item)
+std::optional<Any> stateOfOne(const TonquillTimeSig &item)
 {
     return TimeSignature{item.pos(), item.numerator(), item.denominator()};
 }
 
-Any stateOfText(const TonquillText &item)
+std::optional<Any> stateOfOne(const TonquillText &item)
 {
     return Text{item.pos(), rawText(*item.document()), stateOfFont(item.font()),
                 QColor::fromRgba(item.defaultTextColor().rgba()), item.rotation()};
 }
 
-Any stateOfBlock(const TonquillTextBlock &item)
+std::optional<Any> stateOfOne(const TonquillTextBlock &item)
 {
     const bool isHtml = hasFormats(*item.document());
     return TextBlock{item.pos(),
@@ -130,7 +124,7 @@ std::optional<Figure::Anchors> ownAnchors(const TonquillVectorItem &item, const 
     return own;
 }
 
-Any stateOfFigure(const TonquillVectorItem &item)
+std::optional<Any> stateOfOne(const TonquillVectorItem &item)
 {
     const QString keyword = item.data(ItemData::keyword).toString();
     return Figure{item.pos(), keyword, item.startPoint(), item.endPoint(),
@@ -167,8 +161,8 @@ QGraphicsItem *buildOne(TonquillMainWin &window, const Text &state)
     item->setPlainText(state.text);
     item->setDefaultTextColor(state.color);
     item->setSelected(false);
-    QObject::connect(item, SIGNAL(showTextItemMenu(TonquillText *)), window.scene,
-                     SLOT(onTextItemContextMenu(TonquillText *)));
+    QObject::connect(item, &TonquillText::showTextItemMenu, window.scene,
+                     &TonquillScene::onTextItemContextMenu);
     window.scene->addNewItem(item);
     item->setRotation(state.rotation);
     item->updateFrame();
@@ -191,22 +185,51 @@ QGraphicsItem *buildOne(TonquillMainWin &window, const TextBlock &state)
 }
 } // namespace
 
+namespace
+{
+/** Calls `visit` with the item in its class; the answer of `visit` for an item of the document. */
+template <typename Result, typename Visitor>
+Result visitItem(const QGraphicsItem *item, const Visitor &visit, const Result &otherwise)
+{
+    if (const auto *glyph = qgraphicsitem_cast<const TonquillBitmap *>(item))
+        return visit(*glyph);
+    if (const auto *time = qgraphicsitem_cast<const TonquillTimeSig *>(item))
+        return visit(*time);
+    if (const auto *text = qgraphicsitem_cast<const TonquillText *>(item))
+        return visit(*text);
+    if (const auto *block = qgraphicsitem_cast<const TonquillTextBlock *>(item))
+        return visit(*block);
+    if (const auto *figure = dynamic_cast<const TonquillVectorItem *>(item))
+        return visit(*figure);
+    return otherwise;
+}
+
+ItemStatus statusOf(const QGraphicsItem *item)
+{
+    return visitItem(
+        item, [](const auto &one) { return ItemStatus(one.itemStatus()); }, ItemStatus::Placed);
+}
+
+template <typename Item>
+bool isWaiting(const Item &item)
+{
+    const auto status = ItemStatus(item.itemStatus());
+    return status == ItemStatus::Adding || status == ItemStatus::Stretching;
+}
+} // namespace
+
 std::optional<Any> SceneItems::stateOf(const QGraphicsItem *item)
 {
-    const ItemStatus status = statusOf(item);
-    if (status == ItemStatus::Adding || status == ItemStatus::Stretching)
-        return std::nullopt;
-    if (const auto *glyph = qgraphicsitem_cast<const TonquillBitmap *>(item))
-        return stateOfGlyph(*glyph);
-    if (const auto *time = qgraphicsitem_cast<const TonquillTimeSig *>(item))
-        return stateOfTime(*time);
-    if (const auto *text = qgraphicsitem_cast<const TonquillText *>(item))
-        return stateOfText(*text);
-    if (const auto *block = qgraphicsitem_cast<const TonquillTextBlock *>(item))
-        return stateOfBlock(*block);
-    if (const auto *figure = dynamic_cast<const TonquillVectorItem *>(item))
-        return stateOfFigure(*figure);
-    return std::nullopt;
+    return visitItem(
+        item,
+        [](const auto &one) { return isWaiting(one) ? std::optional<Any>() : stateOfOne(one); },
+        std::optional<Any>());
+}
+
+bool SceneItems::hasState(const QGraphicsItem *item)
+{
+    return visitItem(
+        item, [](const auto &one) { return !isWaiting(one); }, false);
 }
 
 bool SceneItems::isHeld(const QGraphicsItem *item)

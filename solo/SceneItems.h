@@ -12,6 +12,9 @@ namespace SceneItems
 /** The state of a document item; nothing for a frame, or an item that waits to be placed. */
 std::optional<ItemState::Any> stateOf(const QGraphicsItem *item);
 
+/** True if stateOf() has an answer. */
+bool hasState(const QGraphicsItem *item);
+
 /** True while the pointer moves or resizes this item. */
 bool isHeld(const QGraphicsItem *item);
 

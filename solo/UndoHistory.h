@@ -14,6 +14,14 @@ public:
     /** At most this many bytes are kept in steps; the oldest steps go first. */
     static constexpr qsizetype defaultBound = 256 * 1024 * 1024;
 
+    /** Lines from the index `at` on, and those that replaced them. */
+    struct Hunk
+    {
+        qsizetype at = 0;
+        QList<QByteArray> older;
+        QList<QByteArray> newer;
+    };
+
     explicit UndoHistory(qsizetype bound = defaultBound)
         : m_bound(bound)
     {}
@@ -47,17 +55,16 @@ public:
      */
     QList<qsizetype> followed(const QList<qsizetype> &indices) const;
 
+    /**
+     * What the last undo() or redo() replaced: several hunks with as many newer lines as older
+     * ones and other lines between them, or a single one.
+     */
+    const QList<Hunk> &lastHunks() const { return m_lastApplied.hunks; }
+
     /** The bytes that the steps hold. */
     qsizetype cost() const { return m_cost; }
 
 private:
-    /** Lines from the index `at` on, and those that replaced them. */
-    struct Hunk
-    {
-        qsizetype at = 0;
-        QList<QByteArray> older;
-        QList<QByteArray> newer;
-    };
     /**
      * The way between two neighbouring states: one hunk if lines came or went, otherwise one for
      * each run of lines that changed.

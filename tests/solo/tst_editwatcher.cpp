@@ -27,6 +27,8 @@ private Q_SLOTS:
     void anItemThatWaitsToBePlacedIsNoEdit();
     void undoKeepsTheSelectionOfWhatIsStillThere();
     void undoLeavesTheViewWhereItIs();
+    void aStepReplacesOnlyWhatItChanged();
+    void aStepOfManyItemsGoesBackAsWell();
 
 private:
     int stepsBack();
@@ -181,6 +183,49 @@ void EditWatcherTest::undoLeavesTheViewWhereItIs()
     m_window->InsertBitmapSymbol(22, false, true)->setPos(100, 3600);
     QVERIFY(m_edits->undo());
     QCOMPARE(m_window->view()->curScenePos(), place);
+}
+
+/** Three glyphs on one another; the middle one is moved, so that it has to come between them again.
+ */
+void EditWatcherTest::aStepReplacesOnlyWhatItChanged()
+{
+    QList<QPointer<TonquillBitmap>> glyphs;
+    for (const int id : {20, 21, 22}) {
+        glyphs.append(m_window->InsertBitmapSymbol(id, false, true));
+        glyphs.constLast()->setPos(300, 300);
+    }
+    m_edits->reset();
+    const QByteArrayList before = m_edits->document().items;
+    glyphs[1]->moveBy(50, 0);
+    m_edits->check();
+
+    QVERIFY(m_edits->undo());
+
+    QVERIFY(glyphs[0] && !glyphs[1] && glyphs[2]);
+    QCOMPARE(DocumentSnapshot::capture(*m_window).items, before);
+    QCOMPARE(m_edits->document().items, before);
+    QVERIFY(m_edits->redo());
+    QCOMPARE(DocumentSnapshot::capture(*m_window).items,
+             QByteArrayList({"tonquill_bitmap 200 200 19", "tonquill_bitmap 300 300 20",
+                             "tonquill_bitmap 350 300 21", "tonquill_bitmap 300 300 22"}));
+}
+
+void EditWatcherTest::aStepOfManyItemsGoesBackAsWell()
+{
+    for (int i = 0; i < 200; ++i)
+        m_window->InsertBitmapSymbol(22, false, true)->setPos(i, 400);
+    m_edits->reset();
+    const QByteArrayList before = m_edits->document().items;
+    for (QGraphicsItem *item : DocumentSnapshot::itemsOf(*m_window)) {
+        item->setSelected(true);
+        item->moveBy(0, 7);
+    }
+    m_edits->check();
+
+    QVERIFY(m_edits->undo());
+
+    QCOMPARE(DocumentSnapshot::capture(*m_window).items, before);
+    QCOMPARE(m_window->scene->selectedItems().size(), 201);
 }
 
 TONQUILL_SOLO_TEST_MAIN(EditWatcherTest)

@@ -1,0 +1,107 @@
+#include "DocumentPatch.h"
+
+#include "ItemRecords.h"
+#include "SceneItems.h"
+#include "TonquillMainWin.h"
+#include "TonquillScene.h"
+#include "TonquillTextBlock.h"
+#include "TonquillView.h"
+
+namespace
+{
+using Hunks = QList<UndoHistory::Hunk>;
+
+/** Putting an item below others takes a walk over all of them; from here on building anew wins. */
+constexpr qsizetype mostItems = 32;
+
+bool isSmall(const Hunks &hunks)
+{
+    qsizetype replaced = 0;
+    for (const UndoHistory::Hunk &hunk : hunks)
+        replaced += qMax(hunk.older.size(), hunk.newer.size());
+    return replaced <= mostItems;
+}
+
+/** True while the user is in the middle of something, which a document taken anew would end. */
+bool isBusy(const TonquillMainWin &window)
+{
+    const auto *block = qgraphicsitem_cast<TonquillTextBlock *>(window.scene->focusItem());
+    return DocumentSnapshot::isItemHeld(window) || (block && TonquillTextBlock::isEdited(*block));
+}
+
+QByteArray lineOf(const QGraphicsItem *item)
+{
+    const auto state = SceneItems::stateOf(item);
+    return state ? ItemRecords::format(*state) : QByteArray();
+}
+
+/** True if `items` are those that the lines were written of, as far as the hunks tell. */
+bool matches(const QList<QGraphicsItem *> &items, const Hunks &hunks, qsizetype newerCount)
+{
+    qsizetype olderCount = newerCount;
+    for (const UndoHistory::Hunk &hunk : hunks)
+        olderCount += hunk.older.size() - hunk.newer.size();
+    // An item that waits to be placed has no line, and would be one too many.
+    if (items.size() != olderCount)
+        return false;
+    for (const UndoHistory::Hunk &hunk : hunks) {
+        for (qsizetype i = 0; i < hunk.older.size(); ++i) {
+            if (lineOf(items[hunk.at + i]) != hunk.older[i])
+                return false;
+        }
+    }
+    return true;
+}
+
+/** The states of all newer lines, hunk by hunk; nothing if one cannot be read. */
+std::optional<QList<ItemState::Any>> newStates(const Hunks &hunks)
+{
+    QList<ItemState::Any> states;
+    for (const UndoHistory::Hunk &hunk : hunks) {
+        for (const QByteArray &line : hunk.newer) {
+            const auto state = ItemRecords::parse(QString::fromUtf8(line));
+            if (!state)
+                return std::nullopt;
+            states.append(*state);
+        }
+    }
+    return states;
+}
+
+/** Puts a new item, which is on top of all of its height, right below the one that follows it. */
+void putBelow(QGraphicsItem *item, const QGraphicsItem *above)
+{
+    if (above && above->zValue() == item->zValue())
+        item->stackBefore(above);
+}
+} // namespace
+
+std::optional<DocumentSnapshot> DocumentPatch::apply(TonquillMainWin &window, const Hunks &hunks,
+                                                     const DocumentSnapshot &wanted)
+{
+    if (!isSmall(hunks) || isBusy(window) || wanted.paper != DocumentSnapshot::paperOf(window))
+        return std::nullopt;
+    const QList<QGraphicsItem *> items = DocumentSnapshot::itemsOf(window);
+    const auto states = newStates(hunks);
+    if (!states || !matches(items, hunks, wanted.items.size()))
+        return std::nullopt;
+
+    DocumentSnapshot shown = wanted;
+    QList<QGraphicsItem *> replaced;
+    auto state = states->cbegin();
+    for (const UndoHistory::Hunk &hunk : hunks) {
+        const bool oneForOne = hunk.older.size() == hunk.newer.size();
+        const QGraphicsItem *above = items.value(hunk.at + hunk.older.size());
+        for (qsizetype i = hunk.at; i < hunk.at + hunk.newer.size(); ++i) {
+            QGraphicsItem *item = SceneItems::build(window, *state++);
+            putBelow(item, above);
+            item->setSelected(oneForOne && items[i]->isSelected());
+            shown.items[i] = lineOf(item);
+        }
+        replaced += items.sliced(hunk.at, hunk.older.size());
+    }
+    window.scene->destroyItems(replaced);
+    window.scene->setPageNum(wanted.pageCount);
+    window.onViewScroll(window.view()->curScenePos());
+    return shown;
+}
