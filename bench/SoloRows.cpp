@@ -81,11 +81,14 @@ void paintAndSettle(TonquillMainWin &window)
 /** A file is opened as the program does it that is started with one. Resident bytes at the end. */
 double openFile(int count)
 {
+    const QString path = sampleFile(count, QStringLiteral("tonquill"));
+    if (!QFile::exists(path))
+        qFatal("there is no sample file"); // nobody is there to close the program's box
     const QTemporaryDir folder;
     SoloWindow solo(folder.path());
     solo.show();
     paintAndSettle(solo.window());
-    solo.files().openFile(sampleFile(count, QStringLiteral("tonquill")));
+    solo.files().openFile(path);
     paintAndSettle(solo.window());
     return Probe::residentBytes();
 }
