@@ -17,9 +17,15 @@ using SampleDocument::Samples;
 
 namespace
 {
-const QString openProbe = QStringLiteral("solo-open");
-const QString openFloorProbe = QStringLiteral("solo-open-floor");
-const QString printProbe = QStringLiteral("solo-export-floor");
+/** A kind of document, with what it is called in the names of rows, probes and files. */
+struct Content
+{
+    QString name;
+    Samples (*make)(int count);
+};
+
+const Content glyphs{QStringLiteral("glyphs"), SampleDocument::glyphs};
+const Content allKinds{QStringLiteral("all kinds"), SampleDocument::mix};
 
 /** One step back, with the items on the scene as an edit left them. */
 double undo(int count)
@@ -49,23 +55,33 @@ double receive(int count)
     return cpuSeconds([&] { editor.receiveDocumentInPlaceOf(old); });
 }
 
-/** The path of a file for the probes with `count` items of all kinds; written when first asked. */
-QString sampleFile(int count, const QString &suffix)
+/** The path of a file that this process and its probes share. */
+QString sampleFile(const Content &content, int count, const QString &suffix)
 {
-    return Probe::sharedFolder() + QStringLiteral("/%1.%2").arg(count).arg(suffix);
+    return Probe::sharedFolder() + QStringLiteral("/%1 %2.%3").arg(count).arg(content.name, suffix);
 }
 
-void writeSampleFiles(int count)
+QString documentFile(const Content &content, int count)
 {
-    const QString path = sampleFile(count, QStringLiteral("tonquill"));
-    if (QFile::exists(path))
+    return sampleFile(content, count, QStringLiteral("tonquill"));
+}
+
+QString recordsFile(const Content &content, int count)
+{
+    return sampleFile(content, count, QStringLiteral("records"));
+}
+
+/** Writes the document as a file of the program and as a host's records, when first asked to. */
+void writeSampleFiles(const Content &content, int count)
+{
+    if (QFile::exists(documentFile(content, count)))
         return;
     Editor editor;
-    editor.load(SampleDocument::mix(count));
-    const QString error = DocumentFile::save(path, DocumentSnapshot::capture(editor.window()));
-    QFile records(sampleFile(count, QStringLiteral("records")));
-    const QByteArray text =
-        SampleDocument::records(SampleDocument::mix(count)).join(u'|').toLatin1();
+    editor.load(content.make(count));
+    const QString error = DocumentFile::save(documentFile(content, count),
+                                             DocumentSnapshot::capture(editor.window()));
+    QFile records(recordsFile(content, count));
+    const QByteArray text = SampleDocument::records(content.make(count)).join(u'|').toLatin1();
     if (!error.isEmpty() || !records.open(QIODevice::WriteOnly) ||
         records.write(text) != text.size())
         qFatal("the sample files cannot be written");
@@ -79,9 +95,9 @@ void paintAndSettle(TonquillMainWin &window)
 }
 
 /** A file is opened as the program does it that is started with one. Resident bytes at the end. */
-double openFile(int count)
+double openFile(const Content &content, int count)
 {
-    const QString path = sampleFile(count, QStringLiteral("tonquill"));
+    const QString path = documentFile(content, count);
     if (!QFile::exists(path))
         qFatal("there is no sample file"); // nobody is there to close the program's box
     const QTemporaryDir folder;
@@ -94,12 +110,12 @@ double openFile(int count)
 }
 
 /** The editor's window, and in it what the file holds, built from records. */
-std::unique_ptr<TonquillMainWin> windowWithRecords(int count)
+std::unique_ptr<TonquillMainWin> windowWithRecords(const Content &content, int count)
 {
     auto window = std::make_unique<TonquillMainWin>();
     window->showNormal();
     paintAndSettle(*window);
-    QFile records(sampleFile(count, QStringLiteral("records")));
+    QFile records(recordsFile(content, count));
     if (!records.open(QIODevice::ReadOnly))
         qFatal("the sample file cannot be read");
     window->twMsg(QString::fromLatin1(records.readAll()));
@@ -108,15 +124,15 @@ std::unique_ptr<TonquillMainWin> windowWithRecords(int count)
     return window;
 }
 
-double receiveAfterStart(int count)
+double receiveAfterStart(const Content &content, int count)
 {
-    const auto window = windowWithRecords(count);
+    const auto window = windowWithRecords(content, count);
     return Probe::residentBytes();
 }
 
-double printRecords(int count)
+double printRecords(const Content &content, int count)
 {
-    const auto window = windowWithRecords(count);
+    const auto window = windowWithRecords(content, count);
     window->hide();
     const QTemporaryDir folder;
     QPrinter printer(QPrinter::HighResolution);
@@ -127,38 +143,59 @@ double printRecords(int count)
 }
 
 /** The program itself, from exec to exit. */
-double exportFile(int count)
+double exportFile(const Content &content, int count)
 {
-    writeSampleFiles(count);
+    writeSampleFiles(content, count);
     return Probe::cpuSecondsOfProgram(QStringLiteral("tonquill-solo"),
                                       {QStringLiteral("--export"),
-                                       sampleFile(count, QStringLiteral("pdf")),
-                                       sampleFile(count, QStringLiteral("tonquill"))});
+                                       sampleFile(content, count, QStringLiteral("pdf")),
+                                       documentFile(content, count)});
 }
 
-Measure afterWriting(double (*measure)(const QString &probe, int count), const QString &probe)
+/** What `measure` has to say of the probe, which finds its files written. */
+Measure ofProbe(double (*measure)(const QString &probe, int count), const Content &content,
+                const QString &probe)
 {
     return [=](int count) {
-        writeSampleFiles(count);
+        writeSampleFiles(content, count);
         return measure(probe, count);
     };
+}
+
+QString addProbe(const QString &name, const Content &content,
+                 double (*work)(const Content &content, int count))
+{
+    const QString full = name + u' ' + content.name;
+    Probe::add(full, [=](int count) { return work(content, count); });
+    return full;
+}
+
+void addContent(const Content &content)
+{
+    const QString open = addProbe(QStringLiteral("open"), content, openFile);
+    const QString openFloor = addProbe(QStringLiteral("open floor"), content, receiveAfterStart);
+    const QString printFloor = addProbe(QStringLiteral("export floor"), content, printRecords);
+    const std::vector<int> counts{1000, 10000, 50000, 100000};
+    const std::string of = " of " + content.name.toStdString();
+    compare({.operation = "solo: open a file" + of,
+             .ours = ofProbe(Probe::cpuSecondsOf, content, open),
+             .floor = ofProbe(Probe::cpuSecondsOf, content, openFloor),
+             .counts = counts});
+    compare({.operation = "solo: resident with a file" + of,
+             .ours = ofProbe(Probe::valueOf, content, open),
+             .floor = ofProbe(Probe::valueOf, content, openFloor),
+             .counts = counts,
+             .unit = Unit::Bytes});
+    compare({.operation = "solo: export a file" + of,
+             .ours = [content](int count) { return exportFile(content, count); },
+             .floor = ofProbe(Probe::cpuSecondsOf, content, printFloor),
+             .counts = counts});
 }
 } // namespace
 
 void Rows::addSolo()
 {
-    Probe::add(openProbe, openFile);
-    Probe::add(openFloorProbe, receiveAfterStart);
-    Probe::add(printProbe, printRecords);
     compare({.operation = "solo: one undo step", .ours = undo, .floor = receive});
-    compare({.operation = "solo: open a file",
-             .ours = afterWriting(Probe::cpuSecondsOf, openProbe),
-             .floor = afterWriting(Probe::cpuSecondsOf, openFloorProbe)});
-    compare({.operation = "solo: open a file, resident memory",
-             .ours = afterWriting(Probe::valueOf, openProbe),
-             .floor = afterWriting(Probe::valueOf, openFloorProbe),
-             .unit = Unit::Bytes});
-    compare({.operation = "solo: export to PDF",
-             .ours = exportFile,
-             .floor = afterWriting(Probe::cpuSecondsOf, printProbe)});
+    addContent(glyphs);
+    addContent(allKinds);
 }
