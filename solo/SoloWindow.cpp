@@ -71,7 +71,10 @@ void SoloWindow::sayNothingLeft(const QString &title, const QString &text)
 
 void SoloWindow::refreshTitle()
 {
-    m_window.setWindowTitle(tr("%1[*] – Tonquill").arg(m_session.name()));
+    // Doubled, the mark of a change in a file's name is only a part of the name.
+    const QString mark = QStringLiteral("[*]");
+    const QString name = m_session.name().replace(mark, mark + mark);
+    m_window.setWindowTitle(tr("%1[*] – Tonquill").arg(name));
     m_window.setWindowModified(m_session.isModified());
 }
 
