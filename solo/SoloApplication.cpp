@@ -15,7 +15,6 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
-#include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
@@ -164,9 +163,8 @@ int SoloApplication::runWindow(const SoloArguments &arguments)
                              solo.files().openFile(path);
                      });
     QObject::connect(&solo, &SoloWindow::finished, [] { QCoreApplication::exit(0); });
-    solo.show();
-    // Questions wait until the window is there.
-    QTimer::singleShot(0, &solo, [&solo, &arguments, &file, &hostError] {
+    // Questions wait until the window is in its place, for they are asked in its middle.
+    QObject::connect(&solo, &SoloWindow::appeared, &solo, [&solo, &arguments, &file, &hostError] {
         if (!hostError.isEmpty())
             PlainMessageBox(QMessageBox::Warning,
                             tr("The toolbar's undo and redo cannot be used; the menu's can."),
@@ -179,6 +177,7 @@ int SoloApplication::runWindow(const SoloArguments &arguments)
         else if (first && !arguments.example.isEmpty() && !solo.session().isModified())
             solo.files().openCopy(arguments.example);
     });
+    solo.show();
     return QCoreApplication::exec();
 }
 

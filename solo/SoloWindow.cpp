@@ -6,6 +6,8 @@
 #include <QEvent>
 #include <QMessageBox>
 
+#include <utility>
+
 namespace
 {
 /** The palette's button for the host's window; here there is no other window. */
@@ -94,7 +96,11 @@ void SoloWindow::quit()
 
 bool SoloWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != &m_window || event->type() != QEvent::Close)
+    if (watched != &m_window)
+        return false;
+    if (event->type() == QEvent::Paint && !std::exchange(m_hasAppeared, true))
+        QMetaObject::invokeMethod(this, &SoloWindow::appeared, Qt::QueuedConnection);
+    if (event->type() != QEvent::Close)
         return false;
     event->ignore();
     quit();

@@ -17,6 +17,7 @@
 #include <QSignalSpy>
 #include <QTimer>
 #include <QToolBar>
+#include <QWindow>
 
 /** The window with its menus, its title and its end. */
 class SoloWindowTest : public QObject
@@ -44,6 +45,7 @@ private Q_SLOTS:
     void boxesShowNamesAsTheyStand_data();
     void boxesShowNamesAsTheyStand();
     void theTitleShowsAnyName();
+    void appearsOnceAndWhenItIsShown();
 
 private:
     QList<QAction *> menuActions() const;
@@ -382,6 +384,25 @@ void SoloWindowTest::theTitleShowsAnyName()
     QCOMPARE(m_solo->session().saveAs(m_folder->filePath("a[*].tonquill")), QString());
     // The toolkit takes two marks for the letters of one.
     QCOMPARE(m_solo->window().windowTitle(), QString("a[*][*].tonquill[*] – Tonquill"));
+}
+
+void SoloWindowTest::appearsOnceAndWhenItIsShown()
+{
+    SoloWindow solo(m_folder->path());
+    QSignalSpy appeared(&solo, &SoloWindow::appeared);
+    bool isThere = false;
+    connect(&solo, &SoloWindow::appeared, this,
+            [&] { isThere = solo.window().windowHandle()->isExposed(); });
+    solo.show();
+    QCOMPARE(appeared.size(), 0);
+    QTRY_COMPARE(appeared.size(), 1);
+    QVERIFY(isThere);
+    solo.window().hide();
+    solo.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&solo.window()));
+    QCoreApplication::processEvents();
+    QCOMPARE(appeared.size(), 1);
+    solo.session().close();
 }
 
 TONQUILL_SOLO_TEST_MAIN(SoloWindowTest)
