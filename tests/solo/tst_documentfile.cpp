@@ -111,6 +111,14 @@ void DocumentFileTest::saysWhatIsWrongAndOffersTheRest_data()
         << QByteArray("tonquill_pagecount 1\ntonquill_bitmap 19 1 2 0\n"
                       "tonquill_textblock_begin 1 2 30 40\nverse\n")
         << QList<int>{3} << 2;
+    QTest::newRow("a text of a host in letters larger than any")
+        << QByteArray("tonquill_pagecount 1\ntonquill_text 1 2 90 20 la Arial 400400 0 0\n"
+                      "tonquill_text 1 2 90 20 la Arial 32767 0 0\n")
+        << QList<int>{2} << 1;
+    QTest::newRow("a text of a host at an angle that is none")
+        << QByteArray("tonquill_pagecount 1\ntonquill_text 1 2 90 20 la Arial 12 0 inf\n"
+                      "tonquill_text 1 2 90 20 la Arial 12 0 nan\n")
+        << QList<int>{2, 3} << 0;
 }
 
 void DocumentFileTest::saysWhatIsWrongAndOffersTheRest()
