@@ -13,6 +13,7 @@
 #include <QPointer>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QUrl>
 
 #include <array>
 
@@ -30,6 +31,28 @@ QString placeholder()
     return QStringLiteral("Text Block:\r\n\r\nSet the size with the Mouse.\r\n"
                           "Double-click to Edit.");
 }
+
+/**
+ * The text of a block. It may be formatted, come from a stranger's document, and name a picture or
+ * a style sheet: no file of this machine is opened for that, which might also be a device without
+ * an end. Only what the text itself contains is shown.
+ */
+class SelfContainedText : public QTextDocument
+{
+public:
+    using QTextDocument::QTextDocument;
+
+protected:
+    QVariant loadResource(int type, const QUrl &name) override
+    {
+        if (name.scheme() == QLatin1String("data"))
+            return QTextDocument::loadResource(type, name);
+        // Were there none at all, the toolkit would open the file in another way.
+        QPixmap nothing(1, 1);
+        nothing.fill(Qt::transparent);
+        return nothing;
+    }
+};
 } // namespace
 
 TonquillTextBlock::TonquillTextBlock(bool adding, const QString &text, const QRectF &rect,
@@ -42,6 +65,7 @@ TonquillTextBlock::TonquillTextBlock(bool adding, const QString &text, const QRe
     setZValue(symbolZValue);
     m_frame.setZValue(0.0);
     setSelected(adding);
+    setDocument(new SelfContainedText(this));
     if (defaultTextColor() != Qt::black)
         setDefaultTextColor(Qt::black); // on a dark desktop it would be that of the windows
 

@@ -1,40 +1,37 @@
 #include "BuiltInHost.h"
 
 #include "HostMessages.h"
+#include "SocketPeer.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QLocalSocket>
 
-#include <sys/socket.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
 constexpr int probeTime = 500; // milliseconds
 
-/** True if nothing but a socket would be replaced at `path`; links are replaced, not followed. */
+/**
+ * True if nothing but a socket of this user's would be replaced at `path`. Links are replaced, not
+ * followed; what another user has put there stays.
+ */
 bool isFreeForSocket(const QString &path)
 {
     struct stat info
     {};
     if (lstat(QFile::encodeName(path).constData(), &info) != 0)
         return true;
-    return S_ISSOCK(info.st_mode) || S_ISLNK(info.st_mode);
+    return info.st_uid == geteuid() && (S_ISSOCK(info.st_mode) || S_ISLNK(info.st_mode));
 }
 
-/** True if the other end of the connection is this process. */
+/** True if the other end of the connection is this process, or the system does not tell. */
 bool isFromThisProcess(const QLocalSocket &socket)
 {
-#ifdef SO_PEERCRED
-    ucred peer{};
-    socklen_t size = sizeof peer;
-    const int descriptor = int(socket.socketDescriptor());
-    return getsockopt(descriptor, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 &&
-           peer.pid == QCoreApplication::applicationPid();
-#else
-    return socket.isValid();
-#endif
+    const std::optional<SocketPeer> peer = SocketPeer::of(socket);
+    return !peer || peer->process == QCoreApplication::applicationPid();
 }
 } // namespace
 
@@ -49,10 +46,11 @@ bool BuiltInHost::isHostListening()
     QLocalSocket probe;
     probe.connectToServer(HostMessages::serverName);
     if (probe.waitForConnected(probeTime))
-        return true;
-    // Busy, or somebody else's: its name is not to be taken.
+        return SocketPeer::isTrusted(probe);
+    // A busy host is one, too; a socket that is another user's own is none of ours.
     return probe.error() != QLocalSocket::ServerNotFoundError &&
-           probe.error() != QLocalSocket::ConnectionRefusedError;
+           probe.error() != QLocalSocket::ConnectionRefusedError &&
+           probe.error() != QLocalSocket::SocketAccessError;
 }
 
 QString BuiltInHost::listen()

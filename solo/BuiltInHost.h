@@ -20,7 +20,7 @@ class BuiltInHost : public QObject
 public:
     explicit BuiltInHost(QObject *parent = nullptr);
 
-    /** True if some host is listening already, or may be. */
+    /** True if a host of this user's is listening already, or may be. */
     static bool isHostListening();
 
     /**

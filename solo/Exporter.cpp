@@ -2,9 +2,11 @@
 
 #include "AtomicFile.h"
 #include "PagePicture.h"
+#include "PagePrinter.h"
 #include "TonquillMainWin.h"
 
 #include <QBuffer>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
@@ -60,29 +62,44 @@ QString Exporter::write(const QString &path, const ExportOptions &options)
         return tr("there is no page %1, only 1 to %2").arg(options.page).arg(m_window.pageCount);
     if (options.dotsPerInch < fewestDots || options.dotsPerInch > mostDots)
         return tr("the resolution must be between %1 and %2").arg(fewestDots).arg(mostDots);
-    const QByteArray bytes = kind == QLatin1String("pdf")   ? pdf()
-                             : kind == QLatin1String("png") ? png(options)
-                                                            : svg(options);
-    const QString error =
-        bytes.isEmpty() ? tr("The picture is too large.") : AtomicFile::write(path, bytes);
+    const Contents made = contents(kind, options);
+    const QString error = made.bytes.isEmpty() ? made.error : AtomicFile::write(path, made.bytes);
     return error.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(path, error);
 }
 
+Exporter::Contents Exporter::contents(const QString &kind, const ExportOptions &options)
+{
+    if (kind == QLatin1String("pdf"))
+        return pdf();
+    const QByteArray bytes = kind == QLatin1String("png") ? png(options) : svg(options);
+    return Contents{bytes, tr("The picture is too large.")};
+}
+
 /** A printer writes a file of its own, so that is made aside and put in place when it is whole. */
-QByteArray Exporter::pdf()
+Exporter::Contents Exporter::pdf()
 {
     const QTemporaryDir folder;
+    const Contents failed{{},
+                          tr("The temporary folder %1 does not take the pages. Is the disk full?")
+                              .arg(QDir::toNativeSeparators(QDir::tempPath()))};
+    // Without a file's name the pages would go to the user's own printer.
+    if (!folder.isValid())
+        return failed;
     const QString path = folder.filePath(QStringLiteral("export.pdf"));
+    PagePrinter::Outcome outcome = PagePrinter::Outcome::NotStarted;
     {
         QPrinter printer(QPrinter::HighResolution);
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setPageLayout(m_window.sharedPrinter().pageLayout());
         printer.setOutputFileName(path);
-        m_window.print(&printer);
+        outcome = m_window.pagePrinter().printUnreported(printer);
     }
+    if (outcome == PagePrinter::Outcome::Cancelled)
+        return Contents();
     QFile file(path);
-    const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    return bytes.trimmed().endsWith("%%EOF") ? bytes : QByteArray();
+    if (outcome != PagePrinter::Outcome::Printed || !file.open(QIODevice::ReadOnly))
+        return failed;
+    return Contents{file.readAll(), failed.error};
 }
 
 QByteArray Exporter::png(const ExportOptions &options)

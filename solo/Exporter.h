@@ -23,11 +23,22 @@ public:
         : m_window(window)
     {}
 
-    /** Writes the file, at once or not at all. The answer is empty, or says what went wrong. */
+    /**
+     * Writes the file, at once or not at all. The answer says what went wrong; it is empty if
+     * nothing did, and also if the user did not wait for the end, which writes nothing.
+     */
     QString write(const QString &path, const ExportOptions &options);
 
 private:
-    QByteArray pdf();
+    /** The bytes of a file; where there are none, what went wrong, if anything did. */
+    struct Contents
+    {
+        QByteArray bytes;
+        QString error;
+    };
+
+    Contents contents(const QString &kind, const ExportOptions &options);
+    Contents pdf();
     QByteArray png(const ExportOptions &options);
     QByteArray svg(const ExportOptions &options);
 

@@ -2,13 +2,13 @@
 
 #include "DocumentSession.h"
 #include "Exporter.h"
+#include "PlainMessageBox.h"
 #include "TonquillMainWin.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
@@ -53,9 +53,7 @@ void FileCommands::remember(const QString &path)
 
 void FileCommands::showError(const QString &text, const QString &details)
 {
-    QMessageBox box(QMessageBox::Warning, tr("Tonquill"), text, QMessageBox::Ok, &m_window);
-    box.setInformativeText(details);
-    box.exec();
+    PlainMessageBox(QMessageBox::Warning, text, details, QMessageBox::Ok, &m_window).exec();
 }
 
 bool FileCommands::mayLeave()
@@ -63,10 +61,10 @@ bool FileCommands::mayLeave()
     m_session.edits().check();
     if (!m_session.isModified())
         return true;
-    QMessageBox box(QMessageBox::Question, tr("Tonquill"),
-                    tr("Save the changes to “%1”?").arg(m_session.name()),
-                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &m_window);
-    box.setInformativeText(tr("Without saving they are lost."));
+    PlainMessageBox box(QMessageBox::Question,
+                        tr("Save the changes to “%1”?").arg(m_session.name()),
+                        tr("Without saving they are lost."),
+                        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &m_window);
     box.setDefaultButton(QMessageBox::Save);
     const int answer = box.exec();
     return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
@@ -115,13 +113,12 @@ bool FileCommands::mayShow(const QString &path, const DocumentFile::Reading &rea
         showError(tr("“%1” cannot be opened.").arg(shown), reading.problemText());
         return false;
     }
-    QMessageBox box(QMessageBox::Warning, tr("Tonquill"),
-                    tr("“%1” can only be read in part.").arg(shown), QMessageBox::Cancel,
-                    &m_window);
-    box.setInformativeText(
+    const QString details =
         tr("%1\n\nShow the rest, %2 items? The file stays as it is until "
            "you save.")
-            .arg(reading.problemText(), QString::number(reading.document.items.size())));
+            .arg(reading.problemText(), QString::number(reading.document.items.size()));
+    PlainMessageBox box(QMessageBox::Warning, tr("“%1” can only be read in part.").arg(shown),
+                        details, QMessageBox::Cancel, &m_window);
     const QAbstractButton *show =
         box.addButton(tr("Show What Can Be Read"), QMessageBox::AcceptRole);
     box.exec();
@@ -183,11 +180,11 @@ void FileCommands::offerRecovery()
         return;
     const QString name = found->path.isEmpty() ? tr("a document without a name")
                                                : QDir::toNativeSeparators(found->path);
-    QMessageBox box(QMessageBox::Question, tr("Tonquill"),
-                    tr("Tonquill ended unexpectedly. Recover the unsaved changes?"),
-                    QMessageBox::NoButton, &m_window);
-    box.setInformativeText(tr("%1, %2.\nThe file itself stays as it is until you save.")
-                               .arg(name, QLocale().toString(found->time, QLocale::ShortFormat)));
+    const QString details = tr("%1, %2.\nThe file itself stays as it is until you save.")
+                                .arg(name, QLocale().toString(found->time, QLocale::ShortFormat));
+    PlainMessageBox box(QMessageBox::Question,
+                        tr("Tonquill ended unexpectedly. Recover the unsaved changes?"), details,
+                        QMessageBox::NoButton, &m_window);
     QPushButton *recover = box.addButton(tr("Recover"), QMessageBox::AcceptRole);
     box.addButton(tr("Discard"), QMessageBox::DestructiveRole);
     box.setDefaultButton(recover);

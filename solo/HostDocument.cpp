@@ -1,5 +1,6 @@
 #include "HostDocument.h"
 
+#include "ItemRecords.h"
 #include "Records.h"
 
 #include <QFont>
@@ -48,9 +49,8 @@ Maybe readText(const QString &record)
                        "([0-9a-f]{1,8}) (\\S+)$"),
         QRegularExpression::DotMatchesEverythingOption);
     const QRegularExpressionMatch match = pattern.match(record);
-    bool isAngle = false;
-    const double angle = match.captured(6).toDouble(&isAngle);
-    if (!match.hasMatch() || !isAngle)
+    const std::optional<double> angle = ItemRecords::toNumber(match.captured(6));
+    if (!match.hasMatch() || !angle)
         return std::nullopt;
     const QString words = match.captured(3);
     Font font = defaultFont();
@@ -59,9 +59,11 @@ Maybe readText(const QString &record)
         font.size = size;
         font.sizeInPixels = false;
     }
+    if (!font.isPossible())
+        return std::nullopt;
     return Text{QPointF(match.captured(1).toInt(), match.captured(2).toInt()),
                 words.chopped(qMin(words.size(), font.family.size() + 1)), font,
-                QColor(QRgb(match.captured(5).toUInt(nullptr, 16))), angle};
+                QColor(QRgb(match.captured(5).toUInt(nullptr, 16))), *angle};
 }
 
 Maybe stateOf(const Records::Bitmap &record)

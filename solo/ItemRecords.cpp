@@ -7,7 +7,6 @@
 #include <QLocale>
 
 #include <cmath>
-#include <limits>
 
 namespace
 {
@@ -175,8 +174,6 @@ private:
 
 Font Reader::font()
 {
-    constexpr int lightest = 1;
-    constexpr int heaviest = 1000;
     Font font;
     font.family = text(QStringLiteral("font"));
     font.sizeInPixels = has(QStringLiteral("pixels"));
@@ -188,8 +185,7 @@ Font Reader::font()
     else if (flag(QStringLiteral("oblique")))
         font.style = QFont::StyleOblique;
     font.underline = flag(QStringLiteral("underline"));
-    m_valid = m_valid && font.size > 0 && font.size <= std::numeric_limits<short>::max() &&
-              font.weight >= lightest && font.weight <= heaviest;
+    m_valid = m_valid && font.isPossible();
     return font;
 }
 

@@ -5,6 +5,7 @@
 #include <QPointF>
 #include <QString>
 
+#include <limits>
 #include <optional>
 #include <utility>
 #include <variant>
@@ -59,6 +60,15 @@ struct Font
     QFont::Style style = QFont::StyleNormal;
     bool underline = false;
     bool operator==(const Font &) const = default;
+
+    /** True if letters can have this size and weight. */
+    bool isPossible() const
+    {
+        constexpr int lightest = 1;
+        constexpr int heaviest = 1000;
+        return size > 0 && size <= std::numeric_limits<short>::max() && weight >= lightest &&
+               weight <= heaviest;
+    }
 };
 
 /** A simple text. */

@@ -3,6 +3,7 @@
 #include "BuiltInHost.h"
 #include "DocumentFile.h"
 #include "Exporter.h"
+#include "PlainMessageBox.h"
 #include "SingleInstance.h"
 #include "SoloWindow.h"
 #include "Translations.h"
@@ -11,11 +12,9 @@
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
-#include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
@@ -164,14 +163,13 @@ int SoloApplication::runWindow(const SoloArguments &arguments)
                              solo.files().openFile(path);
                      });
     QObject::connect(&solo, &SoloWindow::finished, [] { QCoreApplication::exit(0); });
-    solo.show();
-    // Questions wait until the window is there.
-    QTimer::singleShot(0, &solo, [&solo, &arguments, &file, &hostError] {
+    // Questions wait until the window is in its place, for they are asked in its middle.
+    QObject::connect(&solo, &SoloWindow::appeared, &solo, [&solo, &arguments, &file, &hostError] {
         if (!hostError.isEmpty())
-            QMessageBox::warning(
-                &solo.window(), tr("Tonquill"),
-                tr("The toolbar's undo and redo cannot be used; the menu's can. %1")
-                    .arg(hostError));
+            PlainMessageBox(QMessageBox::Warning,
+                            tr("The toolbar's undo and redo cannot be used; the menu's can."),
+                            hostError, QMessageBox::Ok, &solo.window())
+                .exec();
         const bool first = isFirstStart();
         solo.files().offerRecovery();
         if (!file.isEmpty())
@@ -179,6 +177,7 @@ int SoloApplication::runWindow(const SoloArguments &arguments)
         else if (first && !arguments.example.isEmpty() && !solo.session().isModified())
             solo.files().openCopy(arguments.example);
     });
+    solo.show();
     return QCoreApplication::exec();
 }
 
@@ -191,12 +190,11 @@ int SoloApplication::handOver(const SingleInstance &instance, const QString &pat
 /** A host that is there already keeps its name; this program can be its editor, or nothing. */
 int SoloApplication::openAsEditorOfHost()
 {
-    QMessageBox box(QMessageBox::Question, tr("Tonquill"),
-                    tr("A host for Tonquill is running already."));
-    box.setInformativeText(tr("It keeps the document and its history. Tonquill can open as its "
-                              "editor, without files and menus of its own."));
+    PlainMessageBox box(QMessageBox::Question, tr("A host for Tonquill is running already."),
+                        tr("It keeps the document and its history. Tonquill can open as its "
+                           "editor, without files and menus of its own."),
+                        QMessageBox::Cancel);
     const QAbstractButton *open = box.addButton(tr("Open as Its Editor"), QMessageBox::AcceptRole);
-    box.addButton(QMessageBox::Cancel);
     box.exec();
     if (box.clickedButton() != open)
         return 0;

@@ -6,6 +6,8 @@
 #include <QEvent>
 #include <QMessageBox>
 
+#include <utility>
+
 namespace
 {
 /** The palette's button for the host's window; here there is no other window. */
@@ -71,7 +73,10 @@ void SoloWindow::sayNothingLeft(const QString &title, const QString &text)
 
 void SoloWindow::refreshTitle()
 {
-    m_window.setWindowTitle(tr("%1[*] – Tonquill").arg(m_session.name()));
+    // Doubled, the mark of a change in a file's name is only a part of the name.
+    const QString mark = QStringLiteral("[*]");
+    const QString name = m_session.name().replace(mark, mark + mark);
+    m_window.setWindowTitle(tr("%1[*] – Tonquill").arg(name));
     m_window.setWindowModified(m_session.isModified());
 }
 
@@ -91,7 +96,11 @@ void SoloWindow::quit()
 
 bool SoloWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != &m_window || event->type() != QEvent::Close)
+    if (watched != &m_window)
+        return false;
+    if (event->type() == QEvent::Paint && !std::exchange(m_hasAppeared, true))
+        QMetaObject::invokeMethod(this, &SoloWindow::appeared, Qt::QueuedConnection);
+    if (event->type() != QEvent::Close)
         return false;
     event->ignore();
     quit();

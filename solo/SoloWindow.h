@@ -39,6 +39,9 @@ public:
     void redo();
 
 Q_SIGNALS:
+    /** The window is on the screen for the first time, where the desktop has put it. */
+    void appeared();
+
     /** The window was closed for good. */
     void finished();
 
@@ -54,5 +57,6 @@ private:
     FileCommands m_files;
     ZoomControl m_zoom;
     BuiltInHost m_host;
+    bool m_hasAppeared = false;
     bool m_leaving = false;
 };

@@ -98,13 +98,13 @@
         <source>The picture is too large.</source>
         <translation>Das Bild ist zu groß.</translation>
     </message>
+    <message>
+        <source>The temporary folder %1 does not take the pages. Is the disk full?</source>
+        <translation>Der Ordner für Zwischendateien, %1, nimmt die Seiten nicht auf. Ist der Datenträger voll?</translation>
+    </message>
 </context>
 <context>
     <name>FileCommands</name>
-    <message>
-        <source>Tonquill</source>
-        <translation>Tonquill</translation>
-    </message>
     <message>
         <source>Save the changes to “%1”?</source>
         <translation>Die Änderungen an „%1“ speichern?</translation>
@@ -552,6 +552,13 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
 </context>
 <context>
+    <name>PagePrinter</name>
+    <message>
+        <source>The pages could not be printed.</source>
+        <translation>Die Seiten konnten nicht gedruckt werden.</translation>
+    </message>
+</context>
+<context>
     <name>PaletteTable</name>
     <message>
         <source>Bring Trackwright to the front</source>
@@ -711,6 +718,13 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
 </context>
 <context>
+    <name>PrintProgress</name>
+    <message>
+        <source>Printing...</source>
+        <translation>Es wird gedruckt …</translation>
+    </message>
+</context>
+<context>
     <name>SoloApplication</name>
     <message>
         <source>A sketch pad for music notation, with files of its own.</source>
@@ -741,14 +755,6 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
         <translation>--export braucht ein Dokument</translation>
     </message>
     <message>
-        <source>Tonquill</source>
-        <translation>Tonquill</translation>
-    </message>
-    <message>
-        <source>The toolbar&apos;s undo and redo cannot be used; the menu&apos;s can. %1</source>
-        <translation>Rückgängig und Wiederholen gehen nicht von der Werkzeugleiste, wohl aber vom Menü aus. %1</translation>
-    </message>
-    <message>
         <source>another Tonquill is running and does not answer</source>
         <translation>ein anderes Tonquill läuft und antwortet nicht</translation>
     </message>
@@ -763,6 +769,10 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     <message>
         <source>Open as Its Editor</source>
         <translation>Als dessen Editor öffnen</translation>
+    </message>
+    <message>
+        <source>The toolbar&apos;s undo and redo cannot be used; the menu&apos;s can.</source>
+        <translation>„Rückgängig“ und „Wiederholen“ der Werkzeugleiste sind nicht verfügbar, die des Menüs schon.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,7 @@
 
 #include "HostMessages.h"
 #include "Logging.h"
+#include "SocketPeer.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 
@@ -35,13 +36,22 @@ HostLink::HostLink(TonquillMainWin &window)
     connect(&window.socket, SIGNAL(disconnected()), this, SLOT(onDisconnected()));
 }
 
+bool HostLink::keepsConnection()
+{
+    if (SocketPeer::isTrusted(m_window.socket))
+        return true;
+    qCWarning(lcTonquill).noquote() << "the host at" << m_window.socket.fullServerName()
+                                    << "belongs to another user; the document is not sent to it";
+    m_window.socket.abort();
+    return false;
+}
+
 void HostLink::readAvailable()
 {
-    if (m_paused)
+    // A socket that is closed must not be read from.
+    if (m_paused || m_window.socket.bytesAvailable() == 0)
         return;
     const QByteArray bytes = m_window.socket.readAll();
-    if (bytes.isEmpty())
-        return;
     if (m_incoming.isEmpty())
         m_sinceFirstPiece.start();
     m_incoming.append(bytes);

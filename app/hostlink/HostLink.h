@@ -23,6 +23,12 @@ public:
     /** Works on `window` and its socket, both of which outlive the link. */
     explicit HostLink(TonquillMainWin &window);
 
+    /**
+     * To be asked on a new connection, before anything is sent. Somebody else's process is no host
+     * of this user's: it is hung up on, and the editor goes on without a host.
+     */
+    bool keepsConnection();
+
     /** Reads what the host has written so far. */
     void readAvailable();
 

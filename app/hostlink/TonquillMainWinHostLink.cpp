@@ -10,6 +10,8 @@ void TonquillMainWin::connectToHost()
 
 void TonquillMainWin::onTWConnect()
 {
+    if (!m_hostLink->keepsConnection())
+        return;
     qCDebug(lcTonquill) << "connected to TW";
     notifyTW();
 }

@@ -86,14 +86,20 @@ void PagePrinter::showPrintDialog()
         print(m_window.sharedPrinter());
 }
 
-void PagePrinter::print(QPrinter &printer)
+void PagePrinter::print(QPrinter &printer) const
+{
+    const Outcome outcome = printUnreported(printer);
+    if (outcome == Outcome::NotStarted || outcome == Outcome::BrokenOff)
+        reportFailure();
+}
+
+PagePrinter::Outcome PagePrinter::printUnreported(QPrinter &printer) const
 {
     const Outcome outcome = printPages(printer);
     const bool isCutOff = outcome == Outcome::Cancelled || outcome == Outcome::BrokenOff;
     if (isCutOff && writesFile(printer))
         QFile::remove(printer.outputFileName());
-    if (outcome == Outcome::NotStarted || outcome == Outcome::BrokenOff)
-        reportFailure();
+    return outcome;
 }
 
 PagePrinter::Outcome PagePrinter::printPages(QPrinter &printer) const
@@ -137,8 +143,7 @@ QRectF PagePrinter::sourceOfPage(int index) const
 void PagePrinter::reportFailure() const
 {
     auto *box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Tonquill"),
-                                QStringLiteral("The pages could not be printed."), QMessageBox::Ok,
-                                &m_window);
+                                tr("The pages could not be printed."), QMessageBox::Ok, &m_window);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();
 }

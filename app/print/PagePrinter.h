@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QRectF>
 
 #include <memory>
@@ -12,7 +13,17 @@ class TonquillMainWin;
 /** Prints the pages of the document, one printed page for each, and opens the print dialogs. */
 class PagePrinter
 {
+    Q_DECLARE_TR_FUNCTIONS(PagePrinter)
+
 public:
+    /** What became of a print. */
+    enum class Outcome {
+        Printed,
+        Cancelled, ///< by the user
+        NotStarted,
+        BrokenOff
+    };
+
     /** Both outlive the page printer; `hostLink` has to wait while a long print goes on. */
     PagePrinter(TonquillMainWin &window, HostLink &hostLink);
 
@@ -20,15 +31,16 @@ public:
     void showPageSetup();
     void showPrintDialog();
 
+    /** Prints every page, and tells the user of a print that fails. */
+    void print(QPrinter &printer) const;
+
     /**
      * Prints every page, stretched to the printer's printable area. The user can cancel a long
-     * print, which leaves no file behind, and is told of a print that fails.
+     * print, which leaves no file behind. Whoever calls this tells the user of a failure.
      */
-    void print(QPrinter &printer);
+    Outcome printUnreported(QPrinter &printer) const;
 
 private:
-    enum class Outcome { Printed, Cancelled, NotStarted, BrokenOff };
-
     Outcome printPages(QPrinter &printer) const;
     std::unique_ptr<PrintProgress> progressOf(const QPrinter &printer) const;
     QRectF sourceOfPage(int index) const;

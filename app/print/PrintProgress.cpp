@@ -13,7 +13,7 @@ PrintProgress::PrintProgress(QWidget &window, HostLink &hostLink, int pages)
 {
     m_hostLink.pause();
     m_dialog.setWindowTitle(QStringLiteral("Tonquill"));
-    m_dialog.setLabelText(QStringLiteral("Printing..."));
+    m_dialog.setLabelText(tr("Printing..."));
     m_dialog.setRange(0, pages);
     m_dialog.setMinimumDuration(noticedAsLong);
     m_dialog.setWindowModality(Qt::ApplicationModal);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QProgressDialog>
 
 class HostLink;
@@ -11,6 +12,8 @@ class HostLink;
  */
 class PrintProgress
 {
+    Q_DECLARE_TR_FUNCTIONS(PrintProgress)
+
 public:
     PrintProgress(QWidget &window, HostLink &hostLink, int pages);
     ~PrintProgress();

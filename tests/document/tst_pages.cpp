@@ -61,8 +61,6 @@ private Q_SLOTS:
     void deletionTakesThePageWithItsItems_data();
     void deletionTakesThePageWithItsItems();
     void deletingTheOnlyPageEmptiesIt();
-    void deletingAPageThatIsNone_data();
-    void deletingAPageThatIsNone();
     void insertionAndDeletionAreNotSymmetrical();
     void clearingLeavesOnePage();
     void clearingASinglePageKeepsTheSceneRect();
@@ -188,6 +186,12 @@ void PagesTest::deletionTakesThePageWithItsItems_data()
     QTest::newRow("in the second gap") << 2 << QPointF(300, 2050) << QPointF(300, 2050);
     QTest::newRow("straddles page 1 and 2") << 2 << QPointF(300, 1037) << gone;
     QTest::newRow("on page 3") << 3 << QPointF(300, 2500) << gone;
+    // Of page 0 nothing is deleted, and all below it, page 1 first, goes up.
+    QTest::newRow("below a page before the first")
+        << 0 << QPointF(300, 1500) << QPointF(300, 1500 - 940.5);
+    QTest::newRow("above a page behind the last") << 4 << QPointF(300, 1500) << QPointF(300, 1500);
+    QTest::newRow("above a page far behind the last")
+        << 100 << QPointF(300, 1500) << QPointF(300, 1500);
 }
 
 void PagesTest::deletionTakesThePageWithItsItems()
@@ -213,28 +217,6 @@ void PagesTest::deletingTheOnlyPageEmptiesIt()
     QCOMPARE(placeOf(below), QPointF(300, 1500));
     QCOMPARE(document.window.pageCount, 1);
     QCOMPARE(document.scene->sceneRect(), QRectF(0, 0, width, pitch));
-}
-
-void PagesTest::deletingAPageThatIsNone_data()
-{
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QPointF>("after");
-    // Of page 0 nothing is deleted, and all below it, page 1 first, goes up.
-    QTest::newRow("before the first") << 0 << QPointF(300, 1500 - 940.5);
-    QTest::newRow("behind the last") << 4 << QPointF(300, 1500);
-    QTest::newRow("far behind the last") << 100 << QPointF(300, 1500);
-}
-
-void PagesTest::deletingAPageThatIsNone()
-{
-    QFETCH(int, page);
-    QFETCH(QPointF, after);
-    PaperDocument document(QPageSize::Letter, 3);
-    const QPointer<TonquillBitmap> item = document.addGlyph(QPointF(300, 1500));
-    document.scene->deletePage(page);
-    QCOMPARE(placeOf(item), after);
-    QCOMPARE(document.window.pageCount, 2);
-    QCOMPARE(document.scene->sceneRect(), QRectF(0, 0, width, 2 * pitch));
 }
 
 void PagesTest::insertionAndDeletionAreNotSymmetrical()

@@ -94,6 +94,21 @@ QPointF bodyOf(QGraphicsItem *item)
 {
     return item->mapToScene(item->boundingRect().center());
 }
+/** An item of the row on the scene of a window, and the pointer there. */
+struct ItemOnScene
+{
+    explicit ItemOnScene(bool adding)
+        : pointer(*window.scene)
+        , item(makeFromRow(adding))
+    {
+        window.scene->addNewItem(item);
+        item->setPos(300, 300);
+    }
+
+    TonquillMainWin window;
+    ScenePointer pointer;
+    QGraphicsItem *item; ///< the scene owns it
+};
 } // namespace
 
 /** What all items have in common. */
@@ -228,10 +243,8 @@ void ItemModelTest::frameIsNoObjectAndHasNoKeyword()
 
 void ItemModelTest::waitingItemFollowsAndIgnoresThePress()
 {
-    TonquillMainWin window;
-    ScenePointer pointer(*window.scene);
-    QGraphicsItem *item = makeFromRow(true);
-    window.scene->addNewItem(item);
+    ItemOnScene scene(true);
+    auto &[window, pointer, item] = scene;
     item->setSelected(true);
     pointer.moveTo(QPointF(300, 400));
     QCOMPARE(item->pos(), QPointF(300, 400));
@@ -248,11 +261,8 @@ void ItemModelTest::waitingItemFollowsAndIgnoresThePress()
 
 void ItemModelTest::builtItemNeverFollows()
 {
-    TonquillMainWin window;
-    ScenePointer pointer(*window.scene);
-    QGraphicsItem *item = makeFromRow(false);
-    window.scene->addNewItem(item);
-    item->setPos(300, 300);
+    ItemOnScene scene(false);
+    auto &[window, pointer, item] = scene;
     item->setSelected(true);
     pointer.moveTo(bodyOf(item));
     pointer.moveTo(QPointF(10, 10));
@@ -263,11 +273,8 @@ void ItemModelTest::builtItemNeverFollows()
 
 void ItemModelTest::dragMovesAndReleasePlaces()
 {
-    TonquillMainWin window;
-    ScenePointer pointer(*window.scene);
-    QGraphicsItem *item = makeFromRow(false);
-    window.scene->addNewItem(item);
-    item->setPos(300, 300);
+    ItemOnScene scene(false);
+    auto &[window, pointer, item] = scene;
     const QPointF from = bodyOf(item);
     pointer.press(from);
     pointer.moveTo(from + QPointF(7, 9));
@@ -282,11 +289,8 @@ void ItemModelTest::dragMovesAndReleasePlaces()
 
 void ItemModelTest::twoButtonsStartNothing()
 {
-    TonquillMainWin window;
-    ScenePointer pointer(*window.scene);
-    QGraphicsItem *item = makeFromRow(false);
-    window.scene->addNewItem(item);
-    item->setPos(300, 300);
+    ItemOnScene scene(false);
+    auto &[window, pointer, item] = scene;
     item->setSelected(true);
     pointer.press(QPointF(10, 10), Qt::MiddleButton);
     pointer.press(bodyOf(item), Qt::LeftButton);

@@ -6,6 +6,7 @@
 #include "TonquillScene.h"
 #include "TonquillTextBlock.h"
 
+#include <QBuffer>
 #include <QKeyEvent>
 #include <QTextDocument>
 
@@ -69,6 +70,8 @@ private Q_SLOTS:
     void fontIsLostWithTheRecord();
     void longTextIsRecordedAndReadBack();
     void recordOfACrossedBlockIsReadBack();
+    void formattedTextOpensNoFile_data();
+    void formattedTextOpensNoFile();
 
 private:
     TonquillTextBlock *place(const QString &text = QStringLiteral("verse"));
@@ -413,6 +416,44 @@ void TextBlockTest::recordOfACrossedBlockIsReadBack()
     // One unit wider, and so nearer to nothing.
     QCOMPARE(block->boundingRect(), QRectF(0, 0, -59, -10));
     QVERIFY(!ItemProbe::pictureOf(*m_window.scene, QRectF(0, 100, 300, 300)).isNull());
+}
+
+void TextBlockTest::formattedTextOpensNoFile_data()
+{
+    QTest::addColumn<QString>("html");
+    QTest::addColumn<bool>("isRed");
+    const QString folder = QDir::tempPath();
+    const QString pictureFile = folder + "/red.png";
+    QImage picture(20, 20, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QVERIFY(picture.save(pictureFile));
+    QFile sheet(folder + "/red.css");
+    QVERIFY(sheet.open(QIODevice::WriteOnly));
+    sheet.write("p { background-color: #ff0000 }");
+    QBuffer bytes;
+    QVERIFY(picture.save(&bytes, "PNG"));
+    const QString withPicture("<p>la <img src=\"%1\"></p>");
+    QTest::newRow("a picture within the text")
+        << withPicture.arg("data:image/png;base64," + bytes.data().toBase64()) << true;
+    QTest::newRow("a picture by its address") << withPicture.arg("file://" + pictureFile) << false;
+    QTest::newRow("a picture by its path") << withPicture.arg(pictureFile) << false;
+    QTest::newRow("colours within the text")
+        << "<p style=\"background-color: #ff0000\">la</p>" << true;
+    QTest::newRow("colours of a style sheet")
+        << QString("<html><head><link rel=\"stylesheet\" type=\"text/css\" href=\"file://%1\">"
+                   "</head><body><p>la</p></body></html>")
+               .arg(sheet.fileName())
+        << false;
+}
+
+void TextBlockTest::formattedTextOpensNoFile()
+{
+    QFETCH(QString, html);
+    QFETCH(bool, isRed);
+    TonquillTextBlock *block = place();
+    block->setHtml(html);
+    const QImage picture = ItemProbe::pictureOf(*m_window.scene, block->sceneBoundingRect());
+    QCOMPARE(ItemProbe::pixelsOf(picture, Qt::red) > 0, isRed);
 }
 
 TONQUILL_TEST_MAIN(TextBlockTest)

@@ -1,36 +1,8 @@
+#include "FullDisk.h"
 #include "LetterDocument.h"
 #include "TestMain.h"
 
 #include <QMessageBox>
-
-#include <csignal>
-#include <sys/resource.h>
-
-namespace
-{
-/** While one exists no file of this process can grow beyond a size, as on a full disk. */
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-        : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_limit);
-        const rlimit smaller{bytes, m_limit.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &smaller);
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_limit);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    Q_DISABLE_COPY_MOVE(FullDisk)
-
-private:
-    void (*m_handler)(int);
-    rlimit m_limit{};
-};
-} // namespace
 
 /** Printers that fail: the user is told once, and the program goes on. */
 class FailedPrintsTest : public QObject

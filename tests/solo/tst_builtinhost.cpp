@@ -1,6 +1,7 @@
 #include "BuiltInHost.h"
 #include "HostMessages.h"
 #include "SoloTestMain.h"
+#include "StrangersHost.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 
@@ -20,6 +21,8 @@ private Q_SLOTS:
     void noticesARealHost();
     void replacesAStaleSocket();
     void leavesAnOrdinaryFileAlone();
+    void replacesALinkAndNotWhatItNames();
+    void leavesAnotherUsersSocketAlone();
     void turnsOtherProcessesAway();
     void itsSocketIsTheUsersOwn();
 
@@ -126,6 +129,33 @@ void BuiltInHostTest::leavesAnOrdinaryFileAlone()
     QVERIFY(host.listen().contains(socketPath()));
     QCOMPARE(QFileInfo(socketPath()).size(), qint64(qstrlen("precious")));
     QVERIFY(file.remove());
+}
+
+void BuiltInHostTest::replacesALinkAndNotWhatItNames()
+{
+    QFile file(QDir(QDir::tempPath()).filePath("precious"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("precious");
+    file.close();
+    QVERIFY(file.link(socketPath()));
+    BuiltInHost host;
+    QCOMPARE(host.listen(), QString());
+    QVERIFY(!QFileInfo(socketPath()).isSymLink());
+    QCOMPARE(file.size(), qint64(qstrlen("precious")));
+    QVERIFY(BuiltInHost::isHostListening());
+}
+
+void BuiltInHostTest::leavesAnotherUsersSocketAlone()
+{
+    if (!StrangersHost::isPossible())
+        QSKIP("only the administrator can start a process of another user's");
+    StrangersHost stranger;
+    // No host of this user's, so the program goes on by itself.
+    QVERIFY(!BuiltInHost::isHostListening());
+    QCOMPARE(stranger.received(), QByteArray("received b''"));
+    BuiltInHost host;
+    QVERIFY(host.listen().contains(socketPath()));
+    QVERIFY(QFileInfo::exists(socketPath()));
 }
 
 void BuiltInHostTest::turnsOtherProcessesAway()

@@ -1,5 +1,6 @@
 #include "DocumentFile.h"
 #include "MenuBar.h"
+#include "ModalAnswer.h"
 #include "PaletteTable.h"
 #include "SoloTestMain.h"
 #include "SoloWindow.h"
@@ -9,12 +10,14 @@
 #include "TonquillView.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTimer>
 #include <QToolBar>
+#include <QWindow>
 
 /** The window with its menus, its title and its end. */
 class SoloWindowTest : public QObject
@@ -39,13 +42,17 @@ private Q_SLOTS:
     void openingABrokenFileChangesNothing();
     void partOfADamagedFileIsOffered();
     void aRecoveredDocumentIsUnsaved();
+    void boxesShowNamesAsTheyStand_data();
+    void boxesShowNamesAsTheyStand();
+    void theTitleShowsAnyName();
+    void appearsOnceAndWhenItIsShown();
 
 private:
     QList<QAction *> menuActions() const;
     QAction *entry(const QString &text) const;
     void placeNote();
     static void answerBox(QMessageBox::ButtonRole role, QString *text = nullptr);
-    QString fileOf(const QByteArray &bytes);
+    QString fileOf(const QByteArray &bytes, const QString &name = "file.tonquill");
 
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<SoloWindow> m_solo;
@@ -113,9 +120,9 @@ void SoloWindowTest::answerBox(QMessageBox::ButtonRole role, QString *text)
     });
 }
 
-QString SoloWindowTest::fileOf(const QByteArray &bytes)
+QString SoloWindowTest::fileOf(const QByteArray &bytes, const QString &name)
 {
-    QFile file(m_folder->filePath("file.tonquill"));
+    QFile file(m_folder->filePath(name));
     const bool isOpen = file.open(QIODevice::WriteOnly);
     file.write(isOpen ? bytes : QByteArray());
     return file.fileName();
@@ -323,6 +330,79 @@ void SoloWindowTest::aRecoveredDocumentIsUnsaved()
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), QByteArray("untouched"));
+}
+
+void SoloWindowTest::boxesShowNamesAsTheyStand_data()
+{
+    using Act = std::function<void(SoloWindow &, const QString &)>;
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<Act>("act");
+    const Act open = [](SoloWindow &solo, const QString &path) { solo.files().openFile(path); };
+    QTest::newRow("no document") << QByteArray("no document\n") << open;
+    QTest::newRow("a damaged document") << QByteArray("tonquill-document 1\nrubbish\n") << open;
+    QTest::newRow("unsaved changes")
+        << QByteArray() << Act([](SoloWindow &solo, const QString &path) {
+               QCOMPARE(solo.session().saveAs(path), QString());
+               solo.window().InsertBitmapSymbol(19, false, true);
+               solo.files().mayLeave();
+           });
+    QTest::newRow("a file that cannot be saved")
+        << QByteArray() << Act([](SoloWindow &solo, const QString &path) {
+               solo.session().show(DocumentSnapshot(), path + "/none", true);
+               solo.files().save();
+           });
+    QTest::newRow("recovery") << QByteArray() << Act([](SoloWindow &solo, const QString &path) {
+        QVERIFY(solo.session().journal().write(solo.session().edits().document(), path));
+        solo.files().offerRecovery();
+    });
+}
+
+/** A name may look like a page of the web; it is to be read, and nothing to be fetched for it. */
+void SoloWindowTest::boxesShowNamesAsTheyStand()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(std::function<void(SoloWindow &, const QString &)>, act);
+    const QString name = "<b>a</b><img src=x>.tonquill";
+    QVERIFY(QDir(m_folder->path()).mkpath("<b>a<"));
+    const QString path = fileOf(bytes, name);
+    QStringList texts;
+    ModalAnswer::whenOpen<QMessageBox>([&texts](QMessageBox &box) {
+        for (const QLabel *label : box.findChildren<QLabel *>()) {
+            if (label->text().isEmpty())
+                continue;
+            QCOMPARE(label->textFormat(), Qt::PlainText);
+            texts.append(label->text());
+        }
+    });
+    act(*m_solo, path);
+    QCOMPARE(texts.size(), 2);
+    QVERIFY(texts.join(u'\n').contains("<img src=x>.tonquill"));
+}
+
+void SoloWindowTest::theTitleShowsAnyName()
+{
+    QCOMPARE(m_solo->session().saveAs(m_folder->filePath("a[*].tonquill")), QString());
+    // The toolkit takes two marks for the letters of one.
+    QCOMPARE(m_solo->window().windowTitle(), QString("a[*][*].tonquill[*] – Tonquill"));
+}
+
+void SoloWindowTest::appearsOnceAndWhenItIsShown()
+{
+    SoloWindow solo(m_folder->path());
+    QSignalSpy appeared(&solo, &SoloWindow::appeared);
+    bool isThere = false;
+    connect(&solo, &SoloWindow::appeared, this,
+            [&] { isThere = solo.window().windowHandle()->isExposed(); });
+    solo.show();
+    QCOMPARE(appeared.size(), 0);
+    QTRY_COMPARE(appeared.size(), 1);
+    QVERIFY(isThere);
+    solo.window().hide();
+    solo.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&solo.window()));
+    QCoreApplication::processEvents();
+    QCOMPARE(appeared.size(), 1);
+    solo.session().close();
 }
 
 TONQUILL_SOLO_TEST_MAIN(SoloWindowTest)

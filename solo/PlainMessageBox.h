@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QMessageBox>
+
+/**
+ * A box whose texts are shown as they stand. Left to itself the toolkit takes a text with "<" for
+ * a page of the web, with pictures and links; but so may a file be called.
+ */
+class PlainMessageBox : public QMessageBox
+{
+public:
+    /** `details` stand below `text`, in smaller print; they may be empty. */
+    PlainMessageBox(Icon icon, const QString &text, const QString &details, StandardButtons buttons,
+                    QWidget *parent = nullptr);
+};
