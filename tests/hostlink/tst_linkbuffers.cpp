@@ -70,8 +70,8 @@ void LinkBuffersTest::knowsTheEndOfARecord_data()
     QTest::newRow("line end") << QByteArray("tonquill_bitmap 2 120 300 0\n") << true;
     QTest::newRow("all fields") << QByteArray("tonquill_pagecount 1|tonquill_bitmap 2 120 300 0")
                                 << true;
-    QTest::newRow("a field short") << QByteArray("tonquill_pagecount 1|tonquill_bitmap 2 120 300")
-                                   << false;
+    QTest::newRow("a field short")
+        << QByteArray("tonquill_pagecount 1|tonquill_bitmap 2 120 300") << false;
     QTest::newRow("within a keyword") << QByteArray("tonquill_pagecount 1|tonquill_bit") << false;
     QTest::newRow("block") << QByteArray("x|tonquill_textblock_begin 80 400 240 60\nabc\n"
                                          "tonquill_textblock_end")
