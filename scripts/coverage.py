@@ -1,7 +1,8 @@
 """Prints how many lines of the program's folders the tests have reached, and which they have not.
 
 Reads what a build with TONQUILL_COVERAGE has left behind. Fails when it is fewer than the share
-that is asked for.
+that is asked for in one of the editor's folders; solo/ is shown beside them, for what its tests
+kill has no time to say what it reached.
 """
 
 import argparse
@@ -12,7 +13,8 @@ import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parents[1]
-FOLDERS = ("app", "document", "items", "vector", "solo")
+EDITOR = ("app", "document", "items", "vector")
+FOLDERS = (*EDITOR, "solo")
 
 
 def reports(build):
@@ -67,7 +69,8 @@ def main():
         print_share(folder + "/", reached, lines)
     reached, lines = map(sum, zip(*totals.values()))
     print_share("all", reached, lines)
-    sys.exit(100 * reached < arguments.minimum * lines)
+    shares = [100 * totals[folder][0] / totals[folder][1] for folder in EDITOR]
+    sys.exit(min(shares) < arguments.minimum)
 
 
 if __name__ == "__main__":

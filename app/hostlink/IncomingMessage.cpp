@@ -13,6 +13,8 @@ void IncomingMessage::append(const QByteArray &bytes)
         m_bytes.clear();
     } else if (m_pieces == 1 || isFromHost()) {
         m_bytes += bytes;
+        if (!isFromHost())
+            m_bytes.clear();
     }
 }
 

@@ -16,6 +16,20 @@ QList<QToolButton *> buttonsOf(const TonquillMainWin &window, const QString &too
         buttons << qobject_cast<QToolButton *>(bar->widgetForAction(action));
     return buttons;
 }
+
+/** The colours of what an icon draws in full. */
+QSet<QRgb> inksOf(const QIcon &icon)
+{
+    QSet<QRgb> inks;
+    const QImage picture = icon.pixmap(QSize(24, 24)).toImage();
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixelColor(x, y).alpha() == 255)
+                inks.insert(picture.pixel(x, y));
+        }
+    }
+    return inks;
+}
 } // namespace
 
 /** The toolbars' buttons show no text; what they are for stands in their tips. */
@@ -32,6 +46,7 @@ private Q_SLOTS:
     void tipsStayWhileCtrlIsHeld();
     void menuButtonsOpenTheirMenusAtOnce_data();
     void menuButtonsOpenTheirMenusAtOnce();
+    void iconsAreInkedAnewOnADarkDesktop();
 };
 
 void IconButtonsTest::everyButtonIsNamed_data()
@@ -123,6 +138,26 @@ void IconButtonsTest::menuButtonsOpenTheirMenusAtOnce()
     QCOMPARE(button->popupMode(), QToolButton::InstantPopup);
     QVERIFY(button->menu());
     QVERIFY(!button->menu()->actions().isEmpty());
+}
+
+/** The desktop may turn dark while the program runs. */
+void IconButtonsTest::iconsAreInkedAnewOnADarkDesktop()
+{
+    TonquillMainWin window;
+    const QColor light(240, 240, 230);
+    QPalette dark = window.palette();
+    dark.setColor(QPalette::Window, Qt::black);
+    dark.setColor(QPalette::Text, Qt::yellow);
+    dark.setColor(QPalette::Button, Qt::black);
+    dark.setColor(QPalette::ButtonText, light);
+    window.setPalette(dark);
+    const QSet<QRgb> expected{light.rgb()};
+    for (const char *toolBar : {"toolBar1", "toolBar2", "toolBar3"}) {
+        for (const QToolButton *button : buttonsOf(window, toolBar))
+            QCOMPARE(inksOf(button->icon()), expected);
+    }
+    const QAction *natural = buttonsOf(window, "toolBar2")[5]->menu()->actions().constLast();
+    QCOMPARE(inksOf(natural->icon()), QSet<QRgb>{QColor(Qt::yellow).rgb()});
 }
 
 TONQUILL_TEST_MAIN(IconButtonsTest)

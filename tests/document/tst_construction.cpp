@@ -30,6 +30,7 @@ private Q_SLOTS:
     void offsetMovesTheItem();
     void atTheCursorTheRecordedPositionIsIgnored_data();
     void atTheCursorTheRecordedPositionIsIgnored();
+    void withoutAViewTheCursorIsAtTheOrigin();
     void addingItemsFollowThePointer_data();
     void addingItemsFollowThePointer();
     void textComesBackBlackAndTurned();
@@ -139,6 +140,13 @@ void ConstructionTest::atTheCursorTheRecordedPositionIsIgnored()
     QGraphicsItem *item = built(record, false, -65535);
     QVERIFY(item);
     QCOMPARE(item->pos(), cursor);
+}
+
+void ConstructionTest::withoutAViewTheCursorIsAtTheOrigin()
+{
+    TonquillScene scene;
+    scene.constructItem("tonquill_timesig 10 -3 12 8\n", false, -65535);
+    QCOMPARE(ItemProbe::onlyItem(scene)->scenePos(), QPointF(0, 0));
 }
 
 void ConstructionTest::addingItemsFollowThePointer_data()

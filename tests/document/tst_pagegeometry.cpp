@@ -1,4 +1,3 @@
-#include "PageGeometry.h"
 #include "PaperDocument.h"
 #include "TestMain.h"
 
@@ -27,7 +26,6 @@ class PageGeometryTest : public QObject
 private Q_SLOTS:
     void paperGivesPages_data();
     void paperGivesPages();
-    void paperOriginStaysInInches();
     void printableAreaLiesInsideTheMargins();
     void firstSceneHasOnePage();
     void pageSetupAfterwardsChangesNothing();
@@ -68,16 +66,6 @@ void PageGeometryTest::paperGivesPages()
     QCOMPARE(document.scene->pageSpacing, spacing);
     QCOMPARE(document.scene->pagePitch(), pitch);
     QCOMPARE(document.scene->sceneRect(), QRectF(0, 0, width, pitch));
-}
-
-void PageGeometryTest::paperOriginStaysInInches()
-{
-    const QRectF inches(0.25, 0.5, 8, 10);
-    QCOMPARE(PageGeometry::paperRect(inches), QRectF(0.25, 0.5, 8 * 88, 10 * 90));
-    // x = (0.25 + 1) x 88, right = (0.25 + 8 - 2) x 88 = 550;
-    // y = (0.5 + 0.5) x 90, bottom = (0.5 + 10 - 1.5) x 90 = 810.
-    QCOMPARE(PageGeometry::pageRect(inches, QMarginsF(1, 0.5, 2, 1.5)),
-             QRectF(110, 90, 550 - 110, 810 - 90));
 }
 
 void PageGeometryTest::printableAreaLiesInsideTheMargins()

@@ -12,11 +12,8 @@
 #include "TonquillVectorLineTab.h"
 #include "TonquillVectorNoteTie.h"
 #include "TonquillVectorTriplet.h"
-#include "Truncation.h"
 
 #include <QMetaProperty>
-
-#include <limits>
 
 namespace
 {
@@ -139,8 +136,6 @@ private Q_SLOTS:
     void dragMovesAndReleasePlaces();
     void twoButtonsStartNothing_data() { addItemRows(); }
     void twoButtonsStartNothing();
-    void coordinatesAreTruncatedAndClamped_data();
-    void coordinatesAreTruncatedAndClamped();
 };
 
 void ItemModelTest::typeKeywordAndStacking()
@@ -297,28 +292,6 @@ void ItemModelTest::twoButtonsStartNothing()
     QCOMPARE(statusOf(item), 0);
     pointer.moveTo(bodyOf(item) + QPointF(10, 10));
     QCOMPARE(item->pos(), QPointF(300, 300));
-}
-
-void ItemModelTest::coordinatesAreTruncatedAndClamped_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<int>("whole");
-    QTest::newRow("positive") << 12.9 << 12;
-    QTest::newRow("negative") << -3.7 << -3;
-    QTest::newRow("below zero by less than one") << -0.5 << 0;
-    QTest::newRow("largest") << 2147483647.0 << 2147483647;
-    QTest::newRow("smallest") << -2147483648.0 << int(-2147483647 - 1);
-    QTest::newRow("too large") << 2147483648.0 << 2147483647;
-    QTest::newRow("too small") << -1e300 << int(-2147483647 - 1);
-    QTest::newRow("infinite") << std::numeric_limits<double>::infinity() << 2147483647;
-    QTest::newRow("no number") << std::numeric_limits<double>::quiet_NaN() << 0;
-}
-
-void ItemModelTest::coordinatesAreTruncatedAndClamped()
-{
-    QFETCH(double, value);
-    QFETCH(int, whole);
-    QCOMPARE(truncatedToInt(value), whole);
 }
 
 TONQUILL_TEST_MAIN(ItemModelTest)

@@ -7,6 +7,7 @@
 #include "TonquillTextBlock.h"
 
 #include <QBuffer>
+#include <QGraphicsSceneContextMenuEvent>
 #include <QKeyEvent>
 #include <QTextDocument>
 
@@ -66,6 +67,8 @@ private Q_SLOTS:
     void sizeMenuOpensOnlyAtRest_data();
     void sizeMenuOpensOnlyAtRest();
     void otherSendersDoNotSetTheSize();
+    void toolkitsOwnMenuStaysAway_data();
+    void toolkitsOwnMenuStaysAway();
     void blockMayGoWhileItsMenuIsOpen();
     void fontIsLostWithTheRecord();
     void longTextIsRecordedAndReadBack();
@@ -363,6 +366,29 @@ void TextBlockTest::otherSendersDoNotSetTheSize()
     connect(&stranger, SIGNAL(triggered()), block, SLOT(onFontSizeChange()));
     stranger.trigger();
     QCOMPARE(block->font().pointSize(), size);
+}
+
+void TextBlockTest::toolkitsOwnMenuStaysAway_data()
+{
+    QTest::addColumn<bool>("edited");
+    QTest::newRow("at rest") << false;
+    QTest::newRow("edited") << true;
+}
+
+/** The menu of the size opens when the right button is let go, and there is no other. */
+void TextBlockTest::toolkitsOwnMenuStaysAway()
+{
+    QFETCH(const bool, edited);
+    m_window.scene->constructItem(
+        "tonquill_textblock_begin 80 400 240 60\nabc\ntonquill_textblock_end\n", false, 0);
+    const QPointF inside(90, 410);
+    if (edited)
+        ScenePointer(*m_window.scene).doubleClick(inside);
+    QGraphicsSceneContextMenuEvent event(QEvent::GraphicsSceneContextMenu);
+    event.setScenePos(inside);
+    QCoreApplication::sendEvent(m_window.scene, &event);
+    QVERIFY(event.isAccepted());
+    QVERIFY(!QApplication::activePopupWidget());
 }
 
 /** A document that arrives while the menu is open takes the block away, its menu with it. */

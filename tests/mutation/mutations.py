@@ -56,7 +56,7 @@ MUTATIONS = [
         "items/Truncation.h",
         "return static_cast<int>(value);",
         "return static_cast<int>(value < 0 ? value - 0.5 : value + 0.5);",
-        "tst_(bitmap|itemmodel)",
+        "tst_(bitmap|truncation)",
     ),
     Mutation(
         "a simple text gets the offset once",

@@ -21,7 +21,9 @@ private Q_SLOTS:
     void cancelledPrintLeavesNothingBehind_data();
     void cancelledPrintLeavesNothingBehind();
     void documentFromHostWaitsForThePrint();
-    void documentFromHostThatLeavesWaitsForThePrint();
+    void messageThatHasBegunWaitsForThePrint_data();
+    void messageThatHasBegunWaitsForThePrint();
+    void documentFromHostThatLeavesWaitsForThePrint(); // the last, for it ends the connection
 
 private:
     static constexpr int pages = 100;
@@ -102,18 +104,21 @@ void LongPrintsTest::cancelledPrintLeavesNothingBehind()
     QFETCH(Act, cancel);
     makePrintLong();
     const qsizetype items = m_document.window.scene->items().size();
-    const ProgressWatch watch(cancel);
     QPrinter printer(QPrinter::ScreenResolution);
     LetterDocument::makeLetter(printer);
     printer.setOutputFileName(m_document.pdfPath());
-    m_document.window.print(&printer);
-    QCOMPARE(watch.shown, 1);
+    {
+        const ProgressWatch watch(cancel);
+        m_document.window.print(&printer);
+        QCOMPARE(watch.shown, 1);
+    }
     QVERIFY(m_paints < pages);
     QVERIFY(!QFile::exists(m_document.pdfPath()));
-    // No word about it, for the user knows; and the next print is whole.
+    // No word about it, for the user knows; and the next print, however long, is whole.
     QVERIFY(m_document.window.findChildren<QMessageBox *>().isEmpty());
     QCOMPARE(m_document.window.scene->items().size(), items);
     QCOMPARE(m_document.window.pageCount, pages);
+    m_paints = 0;
     m_document.window.print(&printer);
     QCOMPARE(PdfFile(m_document.pdfPath()).pageCount(), pages);
 }
@@ -135,6 +140,35 @@ void LongPrintsTest::documentFromHostWaitsForThePrint()
         [this](QProgressDialog &) { m_host.send("tonquill_timesig 100 200 3 4\n"); });
     QCOMPARE(textOfLastPage(), QString("Fine"));
     QCOMPARE(watch.shown, 1);
+    QCOMPARE(m_paints, pages);
+    QTRY_VERIFY(ItemProbe::onlyItem(*m_document.window.scene));
+    QCOMPARE(ItemProbe::recordOf(ItemProbe::onlyItem(*m_document.window.scene)),
+             QString("tonquill_timesig 100 200 3 4\n"));
+}
+
+void LongPrintsTest::messageThatHasBegunWaitsForThePrint_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("meanwhile");
+    // Too long for a message that is known to be whole when it comes; its first parts are empty.
+    const QByteArray begin = "tw2tonquill " + QByteArray("\n|").repeated(10000);
+    QTest::newRow("all of it") << begin + "tonquill_timesig 100 200 3 4\n" << QByteArray();
+    QTest::newRow("broken off within a record")
+        << begin + "tonquill_timesig 100 2" << QByteArray("00 3 4\n");
+}
+
+/** It falls silent during the print, which must not count as its end. */
+void LongPrintsTest::messageThatHasBegunWaitsForThePrint()
+{
+    QFETCH(const QByteArray, before);
+    QFETCH(const QByteArray, meanwhile);
+    QTRY_VERIFY(m_host.isConnected());
+    makePrintLong();
+    QSignalSpy arrived(&m_document.window.socket, &QLocalSocket::readyRead);
+    m_host.sendRaw(before);
+    QVERIFY(arrived.wait());
+    const ProgressWatch watch([&](QProgressDialog &) { m_host.sendRaw(meanwhile); });
+    QCOMPARE(textOfLastPage(), QString("Fine"));
     QCOMPARE(m_paints, pages);
     QTRY_VERIFY(ItemProbe::onlyItem(*m_document.window.scene));
     QCOMPARE(ItemProbe::recordOf(ItemProbe::onlyItem(*m_document.window.scene)),

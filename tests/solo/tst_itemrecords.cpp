@@ -1,7 +1,8 @@
 #include "ItemRecords.h"
 #include "QuotedFields.h"
 #include "RandomDocument.h"
-#include "SoloTestMain.h"
+
+#include <QtTest>
 
 using namespace ItemState;
 
@@ -140,5 +141,5 @@ void ItemRecordsTest::rejectsWhatIsNoRecord()
     QVERIFY(!ItemRecords::parse(line).has_value());
 }
 
-TONQUILL_SOLO_TEST_MAIN(ItemRecordsTest)
+QTEST_GUILESS_MAIN(ItemRecordsTest)
 #include "tst_itemrecords.moc"

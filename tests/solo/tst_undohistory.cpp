@@ -1,5 +1,6 @@
-#include "SoloTestMain.h"
 #include "UndoHistory.h"
+
+#include <QtTest>
 
 /** Steps between states, as plain values. */
 class UndoHistoryTest : public QObject
@@ -149,5 +150,5 @@ void UndoHistoryTest::followsItemsThroughAStep()
     QCOMPARE(history.followed(selected), expected);
 }
 
-TONQUILL_SOLO_TEST_MAIN(UndoHistoryTest)
+QTEST_GUILESS_MAIN(UndoHistoryTest)
 #include "tst_undohistory.moc"
