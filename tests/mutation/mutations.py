@@ -144,10 +144,24 @@ MUTATIONS = [
     ),
     Mutation(
         "the host's records are separated by line ends",
-        "document/TonquillSceneRecords.cpp",
-        "tokenize(u'|')",
-        "tokenize(u'\\n')",
+        "document/Records.cpp",
+        "positionOf(u'|', records)",
+        "positionOf(u'\\n', records)",
         "tst_messages",
+    ),
+    Mutation(
+        "an undone step leaves its items on top of the others",
+        "solo/DocumentPatch.cpp",
+        "above->zValue() == item->zValue()",
+        "above->zValue() != item->zValue()",
+        "tst_editwatcher",
+    ),
+    Mutation(
+        "the index is made for the first items only",
+        "document/TonquillScene.cpp",
+        "if (m_addedItems <= m_indexFitsUpTo)",
+        "if (m_indexFitsUpTo > 0)",
+        "tst_manyitems",
     ),
     Mutation(
         "a new text turns the other way",
