@@ -73,7 +73,7 @@ void Rows::addDocument()
                      BareScene::Glyphs::CallableByName, {1000, 10000, 50000, 100000});
     compareReceiving("receive a document of all kinds", SampleDocument::mix,
                      BareScene::Glyphs::CallableByName, {1000, 10000, 100000});
-    compareReceiving("receive glyphs, held against plain pictures", SampleDocument::glyphs,
+    compareReceiving("receive glyphs, against plain items", SampleDocument::glyphs,
                      BareScene::Glyphs::Plain, {50000, 100000});
     compare({.operation = "clear the scene", .ours = clear, .floor = clearBare});
     compare({.operation = "delete a selection of half the items",

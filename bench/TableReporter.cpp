@@ -84,10 +84,10 @@ void TableReporter::visitRows(const Visitor &visit) const
 
 void TableReporter::printTable() const
 {
-    std::printf("%-38s %7s %12s %12s %6s %7s\n", "operation", "N", "ours", "floor", "ratio",
+    std::printf("%-39s %7s %12s %12s %6s %7s\n", "operation", "N", "ours", "floor", "ratio",
                 "growth");
     visitRows([](const std::string &operation, int count, const Row &row, double growth) {
-        std::printf("%-38s %7d %12s %12s %6s %7s\n", operation.c_str(), count,
+        std::printf("%-39s %7d %12s %12s %6s %7s\n", operation.c_str(), count,
                     amount(row.ours, row.isBytes).c_str(), amount(row.floor, row.isBytes).c_str(),
                     cell(row.ratio(), "%.2f").c_str(), cell(growth, "%.1f").c_str());
     });

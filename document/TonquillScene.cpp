@@ -111,6 +111,7 @@ bool TonquillScene::isNewItemIsAdding()
 
 void TonquillScene::destroyItems(const QList<QGraphicsItem *> &items)
 {
+    update(); // all at once, and not item by item
     if (items.size() >= manyItems)
         moveToFrontOfToolkitsList(items);
     // An item that is deleted while it stands on the scene can no longer say where it is: the
@@ -118,7 +119,6 @@ void TonquillScene::destroyItems(const QList<QGraphicsItem *> &items)
     if (items.size() < someItems)
         std::for_each(items.cbegin(), items.cend(), [this](auto *item) { removeItem(item); });
     qDeleteAll(items);
-    update();
 }
 
 /**

@@ -121,7 +121,7 @@ private:
     // Pages
     void resizeToPages();
     void insertPageAt(double top);
-    static void moveDown(const QList<QGraphicsItem *> &items, double way);
+    void moveDown(const QList<QGraphicsItem *> &items, double way);
     QList<QGraphicsItem *> topLevelItemsIn(const QRectF &area) const;
 
     // Records

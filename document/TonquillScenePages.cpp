@@ -73,6 +73,7 @@ void TonquillScene::insertPageAt(double top)
  */
 void TonquillScene::moveDown(const QList<QGraphicsItem *> &items, double way)
 {
+    update(); // all at once, and not item by item
     for (QGraphicsItem *item : items)
         item->setPos(item->x() + 0.0, item->y() + way);
 }
@@ -103,6 +104,7 @@ void TonquillScene::clearScene()
     m_contextText.clear();
     m_quickTextBlock.clear();
     m_waiting.clear();
+    update(); // all at once, and not item by item
     clearSelection();
     clear();
     m_addedItems = 0;

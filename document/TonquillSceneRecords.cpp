@@ -48,6 +48,9 @@ void TonquillScene::constructItem(const QString &record, bool adding, int offset
 
 void TonquillScene::constructDocument(QStringView records)
 {
+    // Once all has to be painted, the toolkit keeps no list of what each item would have painted
+    // anew, which takes more time and memory than the items.
+    update();
     m_lastBuilt = nullptr;
     m_isBuildingDocument = true;
     while (!records.isEmpty()) {
