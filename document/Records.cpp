@@ -1,5 +1,7 @@
 #include "Records.h"
 
+#include "PlainNumber.h"
+
 #include <QList>
 #include <QVarLengthArray>
 
@@ -13,9 +15,6 @@ const QString textblockEnd = QStringLiteral("tonquill_textblock_end");
 
 /** No kind has more fields; the simple text has nine after its keyword. */
 constexpr qsizetype mostFields = 9;
-
-/** A number of so many digits fits an int, whatever the digits. */
-constexpr qsizetype mostPlainDigits = 9;
 
 /** Where `text` has `character` first, or its end; fields are short, and indexOf() starts slowly.
  */
@@ -49,20 +48,10 @@ public:
     QString text(qsizetype index) const { return m_fields[index].toString(); }
 
 private:
-    /** As QStringView::toInt(), which is slow, but quick for the plain numbers that we write. */
     static int toInt(QStringView text)
     {
-        const bool negative = text.startsWith(u'-');
-        const QStringView digits = text.sliced(negative ? 1 : 0);
-        if (digits.isEmpty() || digits.size() > mostPlainDigits)
-            return text.toInt();
-        int result = 0;
-        for (const QChar digit : digits) {
-            if (digit < u'0' || digit > u'9')
-                return text.toInt();
-            result = 10 * result + (digit.unicode() - u'0');
-        }
-        return negative ? -result : result;
+        const std::optional<int> plain = plainNumber(text);
+        return plain ? *plain : text.toInt();
     }
 
     QVarLengthArray<QStringView, mostFields> m_fields;

@@ -1,5 +1,6 @@
 #include "ItemRecords.h"
 
+#include "PlainNumber.h"
 #include "QuotedFields.h"
 #include "Records.h"
 
@@ -269,6 +270,8 @@ QString ItemRecords::number(double value)
 
 std::optional<double> ItemRecords::toNumber(const QString &text)
 {
+    if (const std::optional<int> plain = plainNumber(text))
+        return *plain;
     bool ok = false;
     const double value = text.toDouble(&ok);
     return ok && std::isfinite(value) ? std::optional(value) : std::nullopt;
