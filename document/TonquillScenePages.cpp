@@ -9,6 +9,7 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <typeinfo>
 
 void TonquillScene::resizeToPages()
 {
@@ -121,7 +122,10 @@ namespace
 /** True for the items of the document; their shape is the rectangle of their bounds. */
 bool isDocumentItem(const QGraphicsItem &item)
 {
-    return item.type() >= TonquillBitmap::Type && item.type() <= TonquillVectorTriplet::Type;
+    // The type of a glyph is the toolkit's default, which an embedding program's items may have.
+    if (item.type() == TonquillBitmap::Type)
+        return typeid(item) == typeid(TonquillBitmap);
+    return item.type() > TonquillBitmap::Type && item.type() <= TonquillVectorTriplet::Type;
 }
 
 /**

@@ -191,8 +191,11 @@ namespace
 template <typename Result, typename Visitor>
 Result visitItem(const QGraphicsItem *item, const Visitor &visit, const Result &otherwise)
 {
-    if (const auto *glyph = qgraphicsitem_cast<const TonquillBitmap *>(item))
-        return visit(*glyph);
+    // By its class: an item of an embedding program may have the same type, the toolkit's default.
+    if (item->type() == TonquillBitmap::Type) {
+        const auto *glyph = dynamic_cast<const TonquillBitmap *>(item);
+        return glyph ? visit(*glyph) : otherwise;
+    }
     if (const auto *time = qgraphicsitem_cast<const TonquillTimeSig *>(item))
         return visit(*time);
     if (const auto *text = qgraphicsitem_cast<const TonquillText *>(item))

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void undoLeavesTheViewWhereItIs();
     void aStepReplacesOnlyWhatItChanged();
     void aStepOfManyItemsGoesBackAsWell();
+    void anItemOfAnEmbeddingProgramIsNoPartOfTheDocument();
 
 private:
     int stepsBack();
@@ -226,6 +227,24 @@ void EditWatcherTest::aStepOfManyItemsGoesBackAsWell()
 
     QCOMPARE(DocumentSnapshot::capture(*m_window).items, before);
     QCOMPARE(m_window->scene->selectedItems().size(), 201);
+}
+
+/** An item that has the toolkit's default type, which is that of a glyph. */
+class EmbeddedItem : public QGraphicsItem
+{
+public:
+    QRectF boundingRect() const override { return QRectF(0, 0, 10, 10); }
+    void paint(QPainter *, const QStyleOptionGraphicsItem *, QWidget *) override {}
+};
+
+void EditWatcherTest::anItemOfAnEmbeddingProgramIsNoPartOfTheDocument()
+{
+    auto *embedded = new EmbeddedItem;
+    QCOMPARE(embedded->type(), int(TonquillBitmap::Type));
+    m_window->scene->addItem(embedded);
+    m_edits->check();
+    QCOMPARE(m_edits->document().items, QByteArrayList{"tonquill_bitmap 200 200 19"});
+    QVERIFY(!DocumentSnapshot::isItemHeld(*m_window));
 }
 
 TONQUILL_SOLO_TEST_MAIN(EditWatcherTest)
