@@ -61,8 +61,8 @@ void TonquillScene::addNewItem(QGraphicsItem *item)
  * The toolkit chooses the depth of its index for the items that it finds when it first needs it,
  * and keeps to it whatever comes: found for ten items, it would search tens of thousands at every
  * move of the pointer. So the depth is chosen here, anew whenever the number of items has doubled.
- * A leaf for each four of them is found as quickly as the toolkit's five leaves for each item, is
- * built in half the time and spares a fifth of the memory.
+ * A leaf for two to four of them is found as quickly as the toolkit's two to four leaves for each
+ * one, is built sooner, and spares a sixth of a document's memory.
  */
 void TonquillScene::fitIndexToItems()
 {
