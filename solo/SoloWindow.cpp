@@ -19,6 +19,7 @@ SoloWindow::SoloWindow(const QString &folder)
     , m_session(m_window, folder)
     , m_files(m_window, m_session)
     , m_zoom(m_window)
+    , m_pages(m_window, m_zoom)
 {
     auto *menus = new MenuBar(m_window, m_files, m_zoom);
     m_window.setMenuBar(menus);
@@ -33,6 +34,7 @@ SoloWindow::SoloWindow(const QString &folder)
     connect(&m_host, &BuiltInHost::redoRequested, this, &SoloWindow::redo);
     connect(&m_host, &BuiltInHost::raiseRequested, this, &SoloWindow::show);
     connect(&m_session, &DocumentSession::changed, this, &SoloWindow::refreshTitle);
+    connect(&m_session.edits(), &EditWatcher::documentChanged, &m_pages, &PageControls::refresh);
     refreshTitle();
 }
 

@@ -3,6 +3,7 @@
 #include "BuiltInHost.h"
 #include "DocumentSession.h"
 #include "FileCommands.h"
+#include "PageControls.h"
 #include "TonquillMainWin.h"
 #include "ZoomControl.h"
 
@@ -56,6 +57,7 @@ private:
     DocumentSession m_session;
     FileCommands m_files;
     ZoomControl m_zoom;
+    PageControls m_pages;
     BuiltInHost m_host;
     bool m_hasAppeared = false;
     bool m_leaving = false;

@@ -34,8 +34,9 @@ void ZoomControl::setScale(double scale, bool atPointer)
     view.setTransformationAnchor(atPointer ? QGraphicsView::AnchorUnderMouse
                                            : QGraphicsView::AnchorViewCenter);
     const double bounded = qBound(smallest, scale, largest);
+    Q_EMIT aboutToZoom(bounded);
     view.setTransform(QTransform::fromScale(bounded, bounded));
-    m_window.onViewScroll(view.curScenePos());
+    Q_EMIT zoomed();
 }
 
 void ZoomControl::zoomIn()

@@ -19,6 +19,11 @@ public Q_SLOTS:
     /** Makes a sheet as wide as the view. */
     void fitWidth();
 
+Q_SIGNALS:
+    /** A scene unit is going to be shown as so many pixels. */
+    void aboutToZoom(double scale);
+    void zoomed();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
