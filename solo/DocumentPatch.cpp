@@ -76,8 +76,10 @@ void putBelow(QGraphicsItem *item, const QGraphicsItem *above)
 }
 } // namespace
 
-std::optional<DocumentSnapshot> DocumentPatch::apply(TonquillMainWin &window, const Hunks &hunks,
-                                                     const DocumentSnapshot &wanted)
+std::optional<DocumentPatch::Shown> DocumentPatch::apply(TonquillMainWin &window,
+                                                         const Hunks &hunks,
+                                                         const DocumentSnapshot &wanted,
+                                                         const ItemSelection &selection)
 {
     if (!isSmall(hunks) || isBusy(window) || wanted.paper != DocumentSnapshot::paperOf(window))
         return std::nullopt;
@@ -86,21 +88,25 @@ std::optional<DocumentSnapshot> DocumentPatch::apply(TonquillMainWin &window, co
     if (!states || !matches(items, hunks, wanted.items.size()))
         return std::nullopt;
 
-    DocumentSnapshot shown = wanted;
+    Shown shown{wanted, {}};
     QList<QGraphicsItem *> replaced;
+    qsizetype next = 0;
     auto state = states->cbegin();
     for (const UndoHistory::Hunk &hunk : hunks) {
-        const bool oneForOne = hunk.older.size() == hunk.newer.size();
-        const QGraphicsItem *above = items.value(hunk.at + hunk.older.size());
+        shown.items += items.sliced(next, hunk.at - next);
+        next = hunk.at + hunk.older.size();
+        const QGraphicsItem *above = items.value(next);
         for (qsizetype i = hunk.at; i < hunk.at + hunk.newer.size(); ++i) {
             QGraphicsItem *item = SceneItems::build(window, *state++);
             putBelow(item, above);
-            item->setSelected(oneForOne && items[i]->isSelected());
-            shown.items[i] = lineOf(item);
+            shown.items.append(item);
+            shown.document.items[i] = lineOf(item);
         }
         replaced += items.sliced(hunk.at, hunk.older.size());
     }
+    shown.items += items.sliced(next);
     window.scene->destroyItems(replaced);
+    selection.apply(shown.items);
     window.scene->setPageNum(wanted.pageCount);
     window.onViewScroll(window.view()->curScenePos());
     return shown;

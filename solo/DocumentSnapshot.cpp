@@ -9,7 +9,6 @@
 
 #include <QPageLayout>
 #include <QScrollBar>
-#include <QSet>
 
 #include <algorithm>
 #include <cmath>
@@ -53,14 +52,15 @@ void setPaper(TonquillMainWin &window, const Paper &paper)
 }
 
 void buildItems(TonquillMainWin &window, const QList<QByteArray> &lines,
-                const QSet<qsizetype> &selected)
+                const ItemSelection &selection)
 {
+    const QBitArray selected = selection.toBits(lines.size());
     for (qsizetype i = 0; i < lines.size(); ++i) {
         const auto state = ItemRecords::parse(QString::fromUtf8(lines[i]));
         if (!state)
             continue;
         QGraphicsItem *item = SceneItems::build(window, *state);
-        item->setSelected(selected.contains(i));
+        item->setSelected(selected.testBit(i));
     }
 }
 } // namespace
@@ -78,17 +78,22 @@ Paper DocumentSnapshot::paperOf(const TonquillMainWin &window)
     return Paper{window.scene->paperRect.size(), window.scene->pageRect};
 }
 
-DocumentSnapshot DocumentSnapshot::capture(const TonquillMainWin &window)
+DocumentSnapshot DocumentSnapshot::capture(const TonquillMainWin &window,
+                                           QList<QGraphicsItem *> *read)
 {
     DocumentSnapshot snapshot{paperOf(window), window.pageCount, {}};
-    for (const QGraphicsItem *item : itemsOf(window)) {
-        if (const auto state = SceneItems::stateOf(item))
-            snapshot.items.append(ItemRecords::format(*state));
+    for (QGraphicsItem *item : itemsOf(window)) {
+        const auto state = SceneItems::stateOf(item);
+        if (!state)
+            continue;
+        snapshot.items.append(ItemRecords::format(*state));
+        if (read)
+            read->append(item);
     }
     return snapshot;
 }
 
-void DocumentSnapshot::restore(TonquillMainWin &window, const QList<qsizetype> &selected) const
+void DocumentSnapshot::restore(TonquillMainWin &window, const ItemSelection &selection) const
 {
     QScrollBar *across = window.view()->horizontalScrollBar();
     QScrollBar *down = window.view()->verticalScrollBar();
@@ -96,29 +101,13 @@ void DocumentSnapshot::restore(TonquillMainWin &window, const QList<qsizetype> &
 
     window.scene->clearScene();
     setPaper(window, paper);
-    buildItems(window, items, QSet<qsizetype>(selected.cbegin(), selected.cend()));
+    buildItems(window, items, selection);
     window.scene->setPageNum(pageCount);
 
     across->setValue(scrolled.x());
     down->setValue(scrolled.y());
     window.onViewScroll(window.view()->curScenePos());
     window.scene->update();
-}
-
-QList<qsizetype> DocumentSnapshot::selectionOf(const TonquillMainWin &window)
-{
-    QList<qsizetype> result;
-    if (window.scene->selectedItems().isEmpty())
-        return result;
-    qsizetype index = 0;
-    for (const QGraphicsItem *item : itemsOf(window)) {
-        if (!SceneItems::hasState(item))
-            continue;
-        if (item->isSelected())
-            result.append(index);
-        ++index;
-    }
-    return result;
 }
 
 bool DocumentSnapshot::isItemHeld(const TonquillMainWin &window)

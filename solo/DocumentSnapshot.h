@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ItemSelection.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QRectF>
@@ -28,23 +30,24 @@ struct DocumentSnapshot
 
     bool operator==(const DocumentSnapshot &) const = default;
 
-    /** Reads the window's document. Items that wait to be placed are no part of it yet. */
-    static DocumentSnapshot capture(const TonquillMainWin &window);
+    /**
+     * Reads the window's document. Items that wait to be placed are no part of it yet. With `read`,
+     * the items of the lines are appended to it.
+     */
+    static DocumentSnapshot capture(const TonquillMainWin &window,
+                                    QList<QGraphicsItem *> *read = nullptr);
 
     /**
-     * Replaces the window's document by this one. What the view shows stays where it is, and the
-     * items with an index in `selected` are selected.
+     * Replaces the window's document by this one. What the view shows stays where it is, and
+     * exactly these items are selected.
      */
-    void restore(TonquillMainWin &window, const QList<qsizetype> &selected = {}) const;
+    void restore(TonquillMainWin &window, const ItemSelection &selection = {}) const;
 
     /** The items on the window's pages, from the lowest to the topmost; none that is another's. */
     static QList<QGraphicsItem *> itemsOf(const TonquillMainWin &window);
 
     /** The window's paper. */
     static Paper paperOf(const TonquillMainWin &window);
-
-    /** The indices that the window's selected items have in a snapshot taken now. */
-    static QList<qsizetype> selectionOf(const TonquillMainWin &window);
 
     /** True while the pointer moves or resizes an item of the window. */
     static bool isItemHeld(const TonquillMainWin &window);

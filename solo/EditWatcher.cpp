@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QSet>
 #include <QWidget>
 
 namespace
@@ -56,6 +57,38 @@ bool isInput(const QEvent &event)
         return false;
     }
 }
+
+/** True if this event may change the document, which it has not done yet. */
+bool beginsEdit(const QEvent &event)
+{
+    return event.type() == QEvent::MouseButtonPress ||
+           (event.type() == QEvent::KeyPress && !isAutoRepeat(event));
+}
+
+/** True if no item came or went, and those that are another way now are all selected. */
+bool isEditOfSelection(const DocumentSnapshot &older, const DocumentSnapshot &newer,
+                       const QList<QGraphicsItem *> &items)
+{
+    if (older.items.size() != newer.items.size() || older.pageCount != newer.pageCount)
+        return false;
+    for (qsizetype i = 0; i < items.size(); ++i) {
+        if (!items[i]->isSelected() && older.items[i] != newer.items[i])
+            return false;
+    }
+    return true;
+}
+
+ItemSelection selectionAmong(const QList<QGraphicsItem *> &items,
+                             const QList<QGraphicsItem *> &selected)
+{
+    const QSet<QGraphicsItem *> wanted(selected.cbegin(), selected.cend());
+    ItemSelection result;
+    for (qsizetype i = 0; i < items.size(); ++i) {
+        if (wanted.contains(items[i]))
+            result.append(i);
+    }
+    return result;
+}
 } // namespace
 
 EditWatcher::EditWatcher(TonquillMainWin &window)
@@ -64,12 +97,16 @@ EditWatcher::EditWatcher(TonquillMainWin &window)
     m_soon.setSingleShot(true);
     m_soon.setInterval(0);
     connect(&m_soon, &QTimer::timeout, this, &EditWatcher::check);
+    connect(window.scene, &QGraphicsScene::selectionChanged, this,
+            [this] { m_selectionChanged = true; });
     QCoreApplication::instance()->installEventFilter(this);
     reset();
 }
 
 bool EditWatcher::eventFilter(QObject *watched, QEvent *event)
 {
+    if (beginsEdit(*event))
+        noteSelection();
     if (endsEdit(*watched, *event))
         checkSoon();
     if (isInput(*event))
@@ -86,18 +123,50 @@ void EditWatcher::reset()
 {
     m_soon.stop();
     m_typedIn.clear();
-    m_history.reset(DocumentSnapshot::capture(m_window));
+    QList<QGraphicsItem *> items;
+    m_history.reset(DocumentSnapshot::capture(m_window, &items));
+    remember(items);
     Q_EMIT documentChanged();
+}
+
+/** What is selected while the document is still as it was at the last check. */
+void EditWatcher::noteSelection()
+{
+    if (!m_selectionChanged || m_soon.isActive())
+        return;
+    m_noted = m_window.scene->selectedItems();
+    m_selectionChanged = false;
+}
+
+/** These are the items of the current state, and those of them that are selected its selection. */
+void EditWatcher::remember(const QList<QGraphicsItem *> &items)
+{
+    m_items = items;
+    m_history.select(ItemSelection::of(items));
+    m_noted.reset();
+    m_selectionChanged = false;
 }
 
 void EditWatcher::check()
 {
     if (DocumentSnapshot::isItemHeld(m_window))
         return;
-    const DocumentSnapshot now = DocumentSnapshot::capture(m_window);
-    if (now == m_history.current())
+    QList<QGraphicsItem *> items;
+    const DocumentSnapshot now = DocumentSnapshot::capture(m_window, &items);
+    if (now == m_history.current()) {
+        m_items = items;
+        // To ask every item would make a key that changes nothing slower.
+        if (m_selectionChanged || m_noted)
+            remember(items);
         return;
+    }
+    // A drag often begins with the press that selects what it moves, and nobody saw that alone.
+    if (isEditOfSelection(m_history.current(), now, items))
+        m_history.select(ItemSelection::of(items));
+    else if (m_noted)
+        m_history.select(selectionAmong(m_items, *m_noted));
     m_history.record(now, continuesTyping());
+    remember(items);
     m_typedIn = editedBlock(*m_window.scene);
     m_sinceTyped.start();
     Q_EMIT documentChanged();
@@ -133,13 +202,17 @@ void EditWatcher::showCurrent()
 {
     m_typedIn.clear();
     // What the toolkit tells differently after rebuilding, such as formatted text, is no edit.
+    const DocumentSnapshot wanted = m_history.current();
+    const ItemSelection selection = m_history.selection();
     if (const auto shown =
-            DocumentPatch::apply(m_window, m_history.lastHunks(), m_history.current())) {
-        m_history.adopt(*shown);
+            DocumentPatch::apply(m_window, m_history.lastHunks(), wanted, selection)) {
+        m_history.adopt(shown->document);
+        remember(shown->items);
     } else {
-        const QList<qsizetype> selected = DocumentSnapshot::selectionOf(m_window);
-        m_history.current().restore(m_window, m_history.followed(selected));
-        m_history.adopt(DocumentSnapshot::capture(m_window));
+        wanted.restore(m_window, selection);
+        QList<QGraphicsItem *> items;
+        m_history.adopt(DocumentSnapshot::capture(m_window, &items));
+        remember(items);
     }
     Q_EMIT documentChanged();
 }

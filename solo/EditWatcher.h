@@ -7,6 +7,9 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <optional>
+
+class QGraphicsItem;
 class TonquillMainWin;
 
 /**
@@ -16,6 +19,9 @@ class TonquillMainWin;
  * an edit the scene is compared with the last known state: the editor's messages, the release of
  * a key or button, a closed menu or dialog, a change of focus. A run of typing in one block is
  * one step, and so is a key that is held down.
+ *
+ * What is selected is no edit, but is kept with each state: undo and redo select what was selected
+ * when the document was last like that.
  */
 class EditWatcher : public QObject
 {
@@ -55,10 +61,16 @@ protected:
 private:
     void showCurrent();
     bool continuesTyping();
+    void noteSelection();
+    void remember(const QList<QGraphicsItem *> &items);
 
     TonquillMainWin &m_window;
     UndoHistory m_history;
     QTimer m_soon;
     QPointer<QObject> m_typedIn; ///< the block that the last step typed in
     QElapsedTimer m_sinceTyped;
+    // Items may be gone by now: these lists are only compared with each other.
+    QList<QGraphicsItem *> m_items;                ///< of the lines of the current state
+    std::optional<QList<QGraphicsItem *>> m_noted; ///< selected in it, later than the history knows
+    bool m_selectionChanged = false;               ///< since it was noted or remembered
 };

@@ -15,7 +15,7 @@ qsizetype costOf(const QList<QByteArray> &lines)
 
 qsizetype UndoHistory::Step::cost() const
 {
-    qsizetype sum = sizeof *this;
+    qsizetype sum = qsizetype(sizeof *this) + selection.cost();
     for (const Hunk &hunk : hunks)
         sum += qsizetype(sizeof hunk) + costOf(hunk.older) + costOf(hunk.newer);
     return sum;
@@ -28,6 +28,7 @@ void UndoHistory::reset(const DocumentSnapshot &state)
     m_cost = 0;
     m_lastApplied = Step();
     m_current = state;
+    m_selection = ItemSelection();
 }
 
 bool UndoHistory::record(const DocumentSnapshot &state, bool sameGesture)
@@ -40,11 +41,16 @@ bool UndoHistory::record(const DocumentSnapshot &state, bool sameGesture)
         m_cost -= last.cost();
         applyBackward(last);
         before = m_current;
+        m_selection = last.selection;
     }
     dropRedo();
     m_current = state;
-    if (state != before)
-        push(difference(before, state));
+    if (state != before) {
+        Step step = difference(before, state);
+        step.selection = m_selection;
+        push(step);
+    }
+    m_selection = ItemSelection();
     return true;
 }
 
@@ -69,10 +75,19 @@ void UndoHistory::dropRedo()
     m_redo.clear();
 }
 
+/** The selection of the state that is left is kept for coming back. */
+void UndoHistory::exchangeSelection(Step &step)
+{
+    m_cost -= step.cost();
+    std::swap(m_selection, step.selection);
+    m_cost += step.cost();
+}
+
 void UndoHistory::undo()
 {
-    const Step step = m_undo.takeLast();
+    Step step = m_undo.takeLast();
     applyBackward(step);
+    exchangeSelection(step);
     m_redo.append(step);
     m_lastApplied = step;
     for (Hunk &hunk : m_lastApplied.hunks)
@@ -81,33 +96,17 @@ void UndoHistory::undo()
 
 void UndoHistory::redo()
 {
-    const Step step = m_redo.takeLast();
+    Step step = m_redo.takeLast();
     applyForward(step);
+    exchangeSelection(step);
     m_undo.append(step);
     m_lastApplied = step;
-}
-
-QList<qsizetype> UndoHistory::followed(const QList<qsizetype> &indices) const
-{
-    // Lines that changed one for one are the same items, so only a single hunk moves any.
-    if (m_lastApplied.hunks.size() != 1)
-        return indices;
-    const Hunk &hunk = m_lastApplied.hunks.constFirst();
-    const qsizetype shift = hunk.newer.size() - hunk.older.size();
-    QList<qsizetype> result;
-    for (const qsizetype index : indices) {
-        if (index < hunk.at || shift == 0)
-            result.append(index);
-        else if (index >= hunk.at + hunk.older.size())
-            result.append(index + shift);
-    }
-    return result;
 }
 
 UndoHistory::Step UndoHistory::difference(const DocumentSnapshot &older,
                                           const DocumentSnapshot &newer)
 {
-    Step step{older.pageCount, newer.pageCount, {}};
+    Step step{older.pageCount, newer.pageCount, {}, {}};
     if (older.items.size() == newer.items.size())
         appendChangedRuns(step, older.items, newer.items);
     else

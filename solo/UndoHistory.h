@@ -1,12 +1,14 @@
 #pragma once
 
 #include "DocumentSnapshot.h"
+#include "ItemSelection.h"
 
 #include <QList>
 
 /**
- * The states that a document went through. A step keeps only the lines that it changed, and those
- * are shared with the states on both sides of it. Pure values: no window, no scene.
+ * The states that a document went through, each with the selection that it had last. A step keeps
+ * only the lines that it changed, and those are shared with the states on both sides of it. Pure
+ * values: no window, no scene.
  */
 class UndoHistory
 {
@@ -26,15 +28,22 @@ public:
         : m_bound(bound)
     {}
 
-    /** Begins anew with this state; no steps. */
+    /** Begins anew with this state; no steps, and nothing selected. */
     void reset(const DocumentSnapshot &state);
 
     /** The state that the document is in. */
     const DocumentSnapshot &current() const { return m_current; }
 
+    /** What is selected in the current state, as far as it was told. */
+    const ItemSelection &selection() const { return m_selection; }
+
+    /** Tells what is selected in the current state. */
+    void select(const ItemSelection &selection) { m_selection = selection; }
+
     /**
      * Takes over the state after an edit; false if it is no other than the current one. With
-     * `sameGesture` it joins the last step, if there is one and nothing was undone since.
+     * `sameGesture` it joins the last step, if there is one and nothing was undone since. What
+     * is selected in the new state remains to be told.
      */
     bool record(const DocumentSnapshot &state, bool sameGesture = false);
 
@@ -48,12 +57,6 @@ public:
     void undo();
     /** Goes a step forward again. Callers check that there is one. */
     void redo();
-
-    /**
-     * Where the items with these indices in the state before the last undo() or redo() are in the
-     * current one. Items that the step added or took away are left out.
-     */
-    QList<qsizetype> followed(const QList<qsizetype> &indices) const;
 
     /**
      * What the last undo() or redo() replaced: several hunks with as many newer lines as older
@@ -74,6 +77,7 @@ private:
         int olderPageCount = 0;
         int newerPageCount = 0;
         QList<Hunk> hunks;
+        ItemSelection selection; ///< of the state that the step leads to, back or forward
         qsizetype cost() const;
     };
 
@@ -85,11 +89,13 @@ private:
     void applyBackward(const Step &step);
     void applyForward(const Step &step);
     void push(const Step &step);
+    void exchangeSelection(Step &step);
     void dropRedo();
 
     qsizetype m_bound;
     qsizetype m_cost = 0;
     DocumentSnapshot m_current;
+    ItemSelection m_selection;
     QList<Step> m_undo;
     QList<Step> m_redo;
     Step m_lastApplied; ///< as it was gone through, from `older` to `newer`

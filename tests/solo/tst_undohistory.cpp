@@ -15,8 +15,11 @@ private Q_SLOTS:
     void editsOfOneGestureAreOneStep();
     void aGestureThatEndsWhereItBeganIsNoStep();
     void dropsTheOldestStepsBeyondItsBound();
-    void followsItemsThroughAStep_data();
-    void followsItemsThroughAStep();
+    void eachStateKeepsItsSelection();
+    void aGestureKeepsTheSelectionFromBeforeIt();
+    void selectionsCostWhatTheirRunsHold();
+    void aSelectionIsItsIndices_data();
+    void aSelectionIsItsIndices();
 };
 
 namespace
@@ -121,33 +124,110 @@ void UndoHistoryTest::dropsTheOldestStepsBeyondItsBound()
     QCOMPARE(history.current(), state(items.first(50 - 9)));
 }
 
-void UndoHistoryTest::followsItemsThroughAStep_data()
+namespace
 {
-    using Indices = QList<qsizetype>;
-    QTest::addColumn<QByteArrayList>("before");
-    QTest::addColumn<QByteArrayList>("after");
-    QTest::addColumn<Indices>("selected");
-    QTest::addColumn<Indices>("expected");
-    // The step is undone: from `after` to `before`.
-    QTest::newRow("moved item") << QByteArrayList{"a", "b"} << QByteArrayList{"a", "B"}
-                                << Indices{0, 1} << Indices{0, 1};
-    QTest::newRow("new item") << QByteArrayList{"a", "c"} << QByteArrayList{"a", "b", "c"}
-                              << Indices{0, 1, 2} << Indices{0, 1};
-    QTest::newRow("deleted item") << QByteArrayList{"a", "b", "c"} << QByteArrayList{"a", "c"}
-                                  << Indices{1} << Indices{2};
+ItemSelection selection(const QList<qsizetype> &indices)
+{
+    ItemSelection result;
+    for (const qsizetype index : indices)
+        result.append(index);
+    return result;
+}
+} // namespace
+
+/** What is selected belongs to the state in which it was, however often one comes back to it. */
+void UndoHistoryTest::eachStateKeepsItsSelection()
+{
+    UndoHistory history;
+    history.reset(state({"a", "b"}));
+    QCOMPARE(history.selection(), selection({}));
+    history.select(selection({0, 1}));
+    history.record(state({"a", "b", "c"}));
+    history.select(selection({2}));
+    history.record(state({"A", "b", "c"}));
+    history.select(selection({0, 2}));
+
+    history.undo();
+    QCOMPARE(history.selection(), selection({2}));
+    history.undo();
+    QCOMPARE(history.selection(), selection({0, 1}));
+    history.select(selection({1}));
+    history.redo();
+    QCOMPARE(history.selection(), selection({2}));
+    history.select(selection({}));
+    history.redo();
+    QCOMPARE(history.selection(), selection({0, 2}));
+    history.undo();
+    QCOMPARE(history.selection(), selection({}));
+    history.undo();
+    QCOMPARE(history.selection(), selection({1}));
 }
 
-void UndoHistoryTest::followsItemsThroughAStep()
+void UndoHistoryTest::aGestureKeepsTheSelectionFromBeforeIt()
 {
-    QFETCH(QByteArrayList, before);
-    QFETCH(QByteArrayList, after);
-    QFETCH(QList<qsizetype>, selected);
-    QFETCH(QList<qsizetype>, expected);
     UndoHistory history;
-    history.reset(state(before));
-    history.record(state(after));
+    history.reset(state({"a", "b"}));
+    history.select(selection({1}));
+    history.record(state({"aa", "b"}));
+    history.select(selection({0}));
+    history.record(state({"aaa", "b"}), true);
+    history.select(selection({0, 1}));
     history.undo();
-    QCOMPARE(history.followed(selected), expected);
+    QCOMPARE(history.selection(), selection({1}));
+    history.redo();
+    QCOMPARE(history.selection(), selection({0, 1}));
+}
+
+/** The cost is that of the selections that wait in steps, which undo exchanges for others. */
+void UndoHistoryTest::selectionsCostWhatTheirRunsHold()
+{
+    QByteArrayList items;
+    ItemSelection everything;
+    ItemSelection everySecond;
+    for (qsizetype i = 0; i < 1000; ++i) {
+        items.append("x");
+        everything.append(i);
+        if (i % 2 == 0)
+            everySecond.append(i);
+    }
+    QCOMPARE(everything.cost(), 2 * qsizetype(sizeof(qsizetype)));
+    QCOMPARE(everySecond.cost(), 500 * everything.cost());
+
+    UndoHistory history;
+    history.reset(state(items));
+    history.record(state(items, 2));
+    const qsizetype bare = history.cost();
+    history.undo();
+    history.select(everySecond);
+    history.redo();
+    QCOMPARE(history.cost(), bare + everySecond.cost());
+    history.select(everything);
+    history.undo();
+    QCOMPARE(history.selection(), everySecond);
+    QCOMPARE(history.cost(), bare + everything.cost());
+    history.record(state(items, 3));
+    history.undo();
+    history.record(state(items, 4));
+    QCOMPARE(history.cost(), bare + everySecond.cost());
+}
+
+void UndoHistoryTest::aSelectionIsItsIndices_data()
+{
+    QTest::addColumn<QList<qsizetype>>("indices");
+    QTest::newRow("none") << QList<qsizetype>{};
+    QTest::newRow("first") << QList<qsizetype>{0};
+    QTest::newRow("last") << QList<qsizetype>{9};
+    QTest::newRow("all") << QList<qsizetype>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
+    QTest::newRow("runs") << QList<qsizetype>{0, 1, 3, 4, 5, 7, 9};
+}
+
+void UndoHistoryTest::aSelectionIsItsIndices()
+{
+    QFETCH(QList<qsizetype>, indices);
+    const QBitArray bits = selection(indices).toBits(10);
+    QCOMPARE(bits.size(), qsizetype(10));
+    for (qsizetype i = 0; i < 10; ++i)
+        QCOMPARE(bits.testBit(i), indices.contains(i));
 }
 
 QTEST_GUILESS_MAIN(UndoHistoryTest)
