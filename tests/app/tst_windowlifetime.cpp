@@ -46,12 +46,23 @@ void WindowLifetimeTest::closingDoesNotEndTheProgram()
     window.show();
     QWidget dialog;
     dialog.show();
-    window.close();
-    dialog.close();
+    constexpr int endedByTest = 7;
+    // Several rounds of the event loop, for Qt ends a program by an event of its own.
+    QTimer rounds;
+    int round = 0;
+    connect(&rounds, &QTimer::timeout, &dialog, [&window, &dialog, &round] {
+        if (++round == 1) {
+            window.close();
+            dialog.close();
+        } else if (round == 10) {
+            QCoreApplication::exit(endedByTest);
+        }
+    });
+    rounds.start(0);
+    QCOMPARE(QCoreApplication::exec(), endedByTest);
+    // The dialog was the last window and Qt said so; the program goes on all the same.
+    QCOMPARE(quits.count(), 1);
     QVERIFY(!QGuiApplication::quitOnLastWindowClosed());
-    bool running = false;
-    QTimer::singleShot(0, [&running] { running = true; });
-    QTRY_VERIFY(running);
 }
 
 void WindowLifetimeTest::hiddenWindowKeepsListening()

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void deletingNothingTellsNobody();
     void deletingTellsTheHostOnce_data();
     void deletingTellsTheHostOnce();
+    void aHeldDeleteTellsTheHostOnce();
     void deleteActsOnRelease();
     void backspaceInABlockDeletesALetter();
     void copyingTwiceMakesTwoOfEach();
@@ -247,6 +248,25 @@ void KeyboardTest::deletingTellsTheHostOnce()
     const QString left = m_editor->records().constFirst();
     keyClick(key);
     QCOMPARE(m_editor->records(), QStringList{left});
+    const QString document = "tonquill2tw tonquill_pagecount 1\n" + left;
+    m_editor->window.OnToolBar1ButtonUndo();
+    QTRY_COMPARE(m_host->messages.join(QString()), document + "tonquill2tw command:undo");
+}
+
+/** While a key is held, the desktop reports it as let go and pressed again, over and over. */
+void KeyboardTest::aHeldDeleteTellsTheHostOnce()
+{
+    for (int i = 0; i < 3; ++i)
+        selectedGlyph();
+    m_editor->build<TonquillTextBlock>(block);
+    const QString left = m_editor->records().constFirst();
+    for (int i = 0; i < 5; ++i) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, QString(), i > 0);
+        QCoreApplication::sendEvent(&m_editor->view(), &press);
+        QKeyEvent release(QEvent::KeyRelease, Qt::Key_Delete, Qt::NoModifier, QString(), i < 4);
+        QCoreApplication::sendEvent(&m_editor->view(), &release);
+        QCOMPARE(m_editor->records(), QStringList{left});
+    }
     const QString document = "tonquill2tw tonquill_pagecount 1\n" + left;
     m_editor->window.OnToolBar1ButtonUndo();
     QTRY_COMPARE(m_host->messages.join(QString()), document + "tonquill2tw command:undo");
@@ -522,7 +542,8 @@ void KeyboardTest::nudgesPasteAndTypingTellTheHostNothing()
 void KeyboardTest::otherKeysAreLeftToTheToolkit()
 {
     QGraphicsItem *item = selectedGlyph();
-    for (const int key : {int(Qt::Key_Home), int(Qt::Key_Tab), int(Qt::Key_Escape), int(Qt::Key_F1)})
+    for (const int key :
+         {int(Qt::Key_Home), int(Qt::Key_Tab), int(Qt::Key_Escape), int(Qt::Key_F1)})
         keyClick(key);
     QCOMPARE(ItemProbe::onlyItem(m_editor->scene()), item);
     QCOMPARE(item->pos(), QPointF(120, 300));

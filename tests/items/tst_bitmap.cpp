@@ -78,6 +78,8 @@ private Q_SLOTS:
     void unknownSymbolKeepsItsRecord();
     void unknownSymbolHasNoPicture();
     void selectionShowsOnScreenOnly();
+    void theDrawingIsAsFineAsTheZoomAsksFor_data();
+    void theDrawingIsAsFineAsTheZoomAsksFor();
     void neverEmitsItemChanged();
 };
 
@@ -376,6 +378,33 @@ void BitmapTest::selectionShowsOnScreenOnly()
     QVERIFY(onScreen() != plainScreen);
     frameOf(*item)->setVisible(true);
     QCOMPARE(onPaper(), plainPaper);
+}
+
+void BitmapTest::theDrawingIsAsFineAsTheZoomAsksFor_data()
+{
+    QTest::addColumn<double>("zoom");
+    QTest::addColumn<int>("finer"); // than the pixmap; 0 for the pixmap itself
+    QTest::newRow("100 %") << 1.0 << 0;
+    QTest::newRow("101 %") << 1.01 << 2;
+    QTest::newRow("200 %") << 2.0 << 2;
+    QTest::newRow("201 %") << 2.01 << 4;
+    QTest::newRow("400 %") << 4.0 << 4;
+    QTest::newRow("401 %") << 4.01 << 8;
+    QTest::newRow("800 %") << 8.0 << 8;
+}
+
+void BitmapTest::theDrawingIsAsFineAsTheZoomAsksFor()
+{
+    QFETCH(double, zoom);
+    QFETCH(int, finer);
+    const TonquillMainWin window;
+    const QPixmap glyph = window.symbols.value(SymbolTable::note(2));
+    QImage screen(10, 10, QImage::Format_RGB32);
+    QPainter painter(&screen);
+    painter.scale(zoom, zoom);
+    const QImage fine = GlyphDrawings::fineDrawing(glyph, painter);
+    QCOMPARE(fine.isNull(), finer == 0);
+    QCOMPARE(fine.size(), glyph.size() * finer);
 }
 
 void BitmapTest::neverEmitsItemChanged()

@@ -46,6 +46,7 @@ private Q_SLOTS:
     void cancelledDialogMakesNothing();
     void emptyTextIsMadeAndRecorded();
     void contextMenuEditsTheText();
+    void boldIsShownUntilTheTextIsReadBack();
     void cancelledEditChangesNothing();
     void editingTakesTheAngleAsItIs_data();
     void editingTakesTheAngleAsItIs();
@@ -380,6 +381,31 @@ void SimpleTextDlgTest::contextMenuEditsTheText()
     QVERIFY(ItemProbe::frameOf(*text)->isAnchor(text->boundingRect().bottomLeft()));
     QTRY_COMPARE(m_host.messages.size(), 1);
     QVERIFY(m_host.messages.constFirst().endsWith(" Larghetto Arial 24 ff0000ff 30\n"));
+}
+
+/** The record keeps no weight, so a host that sends the document back takes it away. */
+void SimpleTextDlgTest::boldIsShownUntilTheTextIsReadBack()
+{
+    TonquillText *text = place();
+    text->setFont(QFont("Verdana", 14, QFont::Normal));
+    m_host.messages.clear();
+    whenOpen<QMenu>([](QMenu &menu) {
+        whenOpen<TonquillSimpleTextDlg>([](TonquillSimpleTextDlg &dialog) {
+            dialog.findChild<QCheckBox *>("cb_bold")->setChecked(true);
+            clickButton(dialog, "pb_ok");
+        });
+        choose(menu, 0);
+    });
+    openMenu(*text);
+    QCOMPARE(text->font().weight(), QFont::Bold);
+    ScenePointer(*m_window.scene).drag(text->mapToScene(QPointF(20, 10)), QPointF(400, 400));
+    QCOMPARE(text->font().weight(), QFont::Bold);
+
+    QTRY_VERIFY(!m_host.messages.isEmpty());
+    m_window.twMsg(text->getParamStr());
+    const auto *copy = qgraphicsitem_cast<TonquillText *>(ItemProbe::onlyItem(*m_window.scene));
+    QVERIFY(copy);
+    QCOMPARE(copy->font().weight(), QFont::Normal);
 }
 
 void SimpleTextDlgTest::cancelledEditChangesNothing()

@@ -199,7 +199,11 @@ void TextBlockTest::cornersAreNeverNormalised()
              QString("tonquill_textblock_begin 100 200 %1\na verse of several words\n"
                      "tonquill_textblock_end\n")
                  .arg(size));
-    QVERIFY(!ItemProbe::pictureOf(*m_window.scene, QRectF(0, 100, 300, 300)).isNull());
+    // Selected, it shows its two anchors, of which the second went along.
+    const QRectF area(0, 100, 300, 300);
+    const QImage picture = ItemProbe::pictureOf(*m_window.scene, area);
+    for (const QPointF anchor : {QPointF(100, 200), to})
+        QCOMPARE(picture.pixelColor((anchor - area.topLeft()).toPoint()), QColor(Qt::green));
     // It can still be moved, deleted and found.
     m_window.scene->itemAt(to, QTransform());
     block->moveBy(10, 10);
@@ -422,7 +426,9 @@ void TextBlockTest::longTextIsRecordedAndReadBack()
         text += QString("%1%2").arg(i % 10000, 4, 10, QChar('0')).arg(i % 10 == 9 ? '\n' : ' ');
     QCOMPARE(text.size(), 10000);
     TonquillTextBlock *block = place(text);
-    QVERIFY(!ItemProbe::pictureOf(*m_window.scene, QRectF(100, 200, 120, 80)).isNull());
+    block->setSelected(false);
+    const QImage picture = ItemProbe::pictureOf(*m_window.scene, QRectF(100, 200, 120, 80));
+    QVERIFY(ItemProbe::pixelsOf(picture, Qt::black) > 0);
 
     m_window.scene->constructItem(block->getParamStr(), false, 0);
     QList<QGraphicsItem *> items = ItemProbe::documentItems(*m_window.scene);
@@ -441,7 +447,9 @@ void TextBlockTest::recordOfACrossedBlockIsReadBack()
     QVERIFY(block);
     // One unit wider, and so nearer to nothing.
     QCOMPARE(block->boundingRect(), QRectF(0, 0, -59, -10));
-    QVERIFY(!ItemProbe::pictureOf(*m_window.scene, QRectF(0, 100, 300, 300)).isNull());
+    // Its letters are shown, however little room its corners leave.
+    const QImage picture = ItemProbe::pictureOf(*m_window.scene, QRectF(0, 100, 300, 300));
+    QVERIFY(ItemProbe::pixelsOf(picture, Qt::white) < 300 * 300);
 }
 
 void TextBlockTest::formattedTextOpensNoFile_data()

@@ -14,6 +14,8 @@ private Q_SLOTS:
     void readsPlainHostDocuments();
     void saysWhatIsWrongAndOffersTheRest_data();
     void saysWhatIsWrongAndOffersTheRest();
+    void aFileHasUpToTenThousandPages_data();
+    void aFileHasUpToTenThousandPages();
     void saysWhyAFileCannotBeOpened_data();
     void saysWhyAFileCannotBeOpened();
     void aFailedSaveLeavesTheOldFile_data();
@@ -134,6 +136,28 @@ void DocumentFileTest::saysWhatIsWrongAndOffersTheRest()
     QCOMPARE(told, lines);
     QCOMPARE(reading.document.items.size(), qsizetype(items));
     QVERIFY(reading.problemText().contains(QString::number(lines.constFirst())));
+}
+
+void DocumentFileTest::aFileHasUpToTenThousandPages_data()
+{
+    QTest::addColumn<QByteArray>("count");
+    QTest::addColumn<bool>("isTaken");
+    QTest::newRow("none") << QByteArray("0") << false;
+    QTest::newRow("one") << QByteArray("1") << true;
+    QTest::newRow("the most") << QByteArray("10000") << true;
+    QTest::newRow("one more") << QByteArray("10001") << false;
+    QTest::newRow("beyond all numbers") << QByteArray("4294967297") << false;
+}
+
+void DocumentFileTest::aFileHasUpToTenThousandPages()
+{
+    QFETCH(QByteArray, count);
+    QFETCH(bool, isTaken);
+    const DocumentFile::Reading reading = DocumentFile::parse(
+        "tonquill-document 1\ntonquill_pagecount " + count + "\ntonquill-end\n", a4);
+    QVERIFY(reading.isDocument);
+    QCOMPARE(reading.problems.isEmpty(), isTaken);
+    QCOMPARE(reading.document.pageCount, isTaken ? count.toInt() : 1);
 }
 
 void DocumentFileTest::saysWhyAFileCannotBeOpened_data()

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void aHeldArrowKeyIsOneStep();
+    void aHeldDeleteIsOneStep();
     void eachTapOfAnArrowKeyIsAStep();
     void aReleaseThatChangedNothingIsNoStep();
     void pasteIsAStep();
@@ -91,6 +92,29 @@ void EditWatcherTest::aHeldArrowKeyIsOneStep()
     QVERIFY(m_edits->document().items.contains("tonquill_bitmap 220 200 19"));
     QCOMPARE(stepsBack(), 1);
     QVERIFY(m_edits->document().items.contains("tonquill_bitmap 200 200 19"));
+}
+
+void EditWatcherTest::aHeldDeleteIsOneStep()
+{
+    for (int i = 0; i < 3; ++i) {
+        TonquillBitmap *glyph = m_window->InsertBitmapSymbol(22, false, true);
+        glyph->setPos(300, 100 * i);
+        glyph->setSelected(true);
+    }
+    m_edits->reset();
+    const QByteArrayList before = m_edits->document().items;
+    QCOMPARE(before.size(), 4);
+    for (int i = 0; i < 3; ++i) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, QString(), i > 0);
+        QCoreApplication::sendEvent(m_window->view(), &press);
+        QKeyEvent release(QEvent::KeyRelease, Qt::Key_Delete, Qt::NoModifier, QString(), i < 2);
+        QCoreApplication::sendEvent(m_window->view(), &release);
+        QCoreApplication::processEvents();
+        // Everything goes with the first report, not an item with each.
+        QVERIFY(DocumentSnapshot::capture(*m_window).items.isEmpty());
+    }
+    QCOMPARE(stepsBack(), 1);
+    QCOMPARE(m_edits->document().items, before);
 }
 
 void EditWatcherTest::eachTapOfAnArrowKeyIsAStep()

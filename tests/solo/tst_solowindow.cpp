@@ -34,6 +34,9 @@ private Q_SLOTS:
     void copyAndPasteFromTheMenuActOnce();
     void aTextLeftForTheMenuIsNotDeleted();
     void theTitleTellsNameAndChange();
+    void aSavedFileIsInOpenRecent();
+    void theViewMenuShowsAndHidesToolbars_data();
+    void theViewMenuShowsAndHidesToolbars();
     void closingAsksAndEnds_data();
     void closingAsksAndEnds();
     void undoFromToolbarAndMenuIsTheSame();
@@ -224,6 +227,67 @@ void SoloWindowTest::theTitleTellsNameAndChange()
     QVERIFY(m_solo->window().isWindowModified());
     QVERIFY(m_solo->session().edits().redo());
     QVERIFY(!m_solo->window().isWindowModified());
+}
+
+void SoloWindowTest::aSavedFileIsInOpenRecent()
+{
+    placeNote();
+    const QString path = m_folder->filePath("rock & roll.tonquill");
+    m_solo->session().show(m_solo->session().edits().document(), path, true);
+    QVERIFY(m_solo->files().save());
+    m_solo->files().makeNew();
+    QVERIFY(m_solo->session().path().isEmpty());
+    auto *menu = qobject_cast<QMenu *>(entry("Open…")->parent());
+    QVERIFY(menu);
+    Q_EMIT menu->aboutToShow();
+    QAction *recent = entry("Open Recent")->menu()->actions().value(0);
+    QVERIFY(recent);
+    QCOMPARE(recent->text(), QString("rock && roll.tonquill"));
+    recent->trigger();
+    QCOMPARE(m_solo->session().path(), path);
+    QCOMPARE(m_solo->session().edits().document().items,
+             QByteArrayList{"tonquill_bitmap 200 200 19"});
+}
+
+void SoloWindowTest::theViewMenuShowsAndHidesToolbars_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("toolBar");
+    QTest::newRow("sheet music") << "Sheet Music Toolbar"
+                                 << "toolBar2";
+    QTest::newRow("tablature") << "Tablature Toolbar"
+                               << "toolBar3";
+}
+
+void SoloWindowTest::theViewMenuShowsAndHidesToolbars()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, toolBar);
+    const auto *bar = m_solo->window().findChild<QToolBar *>(toolBar);
+    QAction *shown = entry(text);
+    auto *menu = qobject_cast<QMenu *>(shown->parent());
+    QVERIFY(menu);
+    const auto isChecked = [menu, shown] {
+        Q_EMIT menu->aboutToShow();
+        return shown->isChecked();
+    };
+    QVERIFY(bar->isVisible());
+    QVERIFY(isChecked());
+    shown->trigger();
+    QVERIFY(!bar->isVisible());
+    QVERIFY(!isChecked());
+    shown->trigger();
+    QVERIFY(bar->isVisible());
+    QVERIFY(isChecked());
+    // The buttons of the first toolbar do the same, and the entries follow.
+    if (toolBar == "toolBar2")
+        m_solo->window().OnToolBar1ButtonSheetMusic();
+    else
+        m_solo->window().OnToolBar1ButtonGuitarTabs();
+    QVERIFY(!bar->isVisible());
+    QVERIFY(!isChecked());
+    shown->trigger();
+    QVERIFY(bar->isVisible());
 }
 
 void SoloWindowTest::closingAsksAndEnds_data()
