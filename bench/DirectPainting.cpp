@@ -27,12 +27,9 @@ QList<QLine> linesOf(Kind kind, QPoint end)
 void paintGlyph(QPainter &painter)
 {
     const QPixmap pixmap = g_pMainWin->symbols.value(SampleDocument::glyphId);
-    const QRect place(QPoint(-(pixmap.width() / 2), -(pixmap.height() / 2)), pixmap.size());
-    const QImage fine = GlyphDrawings::fineDrawing(pixmap, painter);
-    if (fine.isNull())
-        painter.drawPixmap(place.topLeft(), pixmap);
-    else
-        painter.drawImage(place, fine);
+    const QPoint corner(-(pixmap.width() / 2), -(pixmap.height() / 2));
+    if (!GlyphDrawings::paint(painter, pixmap, corner))
+        painter.drawPixmap(corner, pixmap);
 }
 
 void paintText(QPainter &painter, const QFont &font, const QString &text)

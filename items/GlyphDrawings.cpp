@@ -1,58 +1,171 @@
 #include "GlyphDrawings.h"
 
+#include "InkOutline.h"
+#include "InkReduction.h"
 #include "PaperPainting.h"
 
+#include <QCache>
 #include <QHash>
+#include <QPaintEngine>
 #include <QPainter>
 
-#include <array>
+#include <cmath>
 
 namespace
 {
-/** How many times finer than the pixmap each level is. */
-constexpr std::array<int, 3> levelScales{2, 4, 8};
-
-/** One glyph's finer drawings, made when they are first asked for. */
-struct Levels
+/** One glyph's finer drawing, made when it is first asked for. */
+struct Glyph
 {
     QString path;
-    std::array<QImage, levelScales.size()> images;
+    QImage drawing;
+    QPainterPath outline;
 
-    const QImage &finest()
+    const QImage &fineDrawing()
     {
-        QImage &image = images.back();
-        if (image.isNull())
-            image = GlyphDrawings::loadInk(path);
-        return image;
+        if (drawing.isNull())
+            drawing = GlyphDrawings::loadInk(path);
+        return drawing;
     }
 
-    const QImage &level(std::size_t index)
+    const QPainterPath &fineOutline()
     {
-        QImage &image = images[index];
-        if (image.isNull() && !finest().isNull()) {
-            const QSize size = finest().size() * levelScales[index] / levelScales.back();
-            image = finest()
-                        .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
-        }
-        return image;
+        if (outline.isEmpty())
+            outline = InkOutline::of(fineDrawing());
+        return outline;
     }
 };
 
-QHash<qint64, Levels> &levelsByPixmap()
+/** A drawing made smaller: of which pixmap, to which size, and where in its first pixel. */
+struct Reduction
 {
-    static QHash<qint64, Levels> levels;
-    return levels;
+    qint64 pixmap;
+    int across; ///< the scale, in 65536ths
+    int down;
+    QPoint phase; ///< in parts of a pixel, whose number follows from the scale
+
+    bool operator==(const Reduction &other) const = default;
+};
+
+size_t qHash(const Reduction &key, size_t seed)
+{
+    return qHashMulti(seed, key.pixmap, key.across, key.down, key.phase.x(), key.phase.y());
 }
 
-/** How many device pixels one scene unit covers; infinitely many where ink is laid on paper. */
-qreal devicePixelsPerUnit(const QPainter &painter)
+constexpr int scaleUnit = 65536;
+
+/** Room for every glyph of a page at any one zoom. */
+constexpr int mostBytesKept = 16 * 1024 * 1024;
+
+QHash<qint64, Glyph> &glyphsByPixmap()
 {
-    if (PaperPainting::isPrinter(painter))
-        return qInf();
-    const qreal zoom =
-        QStyleOptionGraphicsItem::levelOfDetailFromTransform(painter.worldTransform());
-    return zoom * painter.device()->devicePixelRatioF();
+    static QHash<qint64, Glyph> glyphs;
+    return glyphs;
+}
+
+QCache<Reduction, QImage> &reductions()
+{
+    static QCache<Reduction, QImage> images(mostBytesKept);
+    return images;
+}
+
+/** True where a unit is a device pixel, so that the pixmap is exactly what is to be seen. */
+bool isPixelForPixel(const QPainter &painter)
+{
+    return !PaperPainting::isPrinter(painter) &&
+           painter.deviceTransform().type() <= QTransform::TxTranslate;
+}
+
+/** True if what is painted is at most moved and scaled. */
+bool isUpright(const QTransform &toDevice)
+{
+    return toDevice.type() <= QTransform::TxScale && toDevice.m11() > 0 && toDevice.m22() > 0;
+}
+
+/** How many device pixels a unit has across and down; as many in both ways if it is turned. */
+QSizeF pixelsPerUnit(const QTransform &toDevice)
+{
+    if (isUpright(toDevice))
+        return QSizeF(toDevice.m11(), toDevice.m22());
+    const qreal both = QStyleOptionGraphicsItem::levelOfDetailFromTransform(toDevice);
+    return QSizeF(both, both);
+}
+
+/** In how many parts of a pixel a place is told: large glyphs need less care than small ones. */
+int partsOfPixel(qreal pixelsPerUnit)
+{
+    if (pixelsPerUnit >= 4)
+        return 1;
+    return pixelsPerUnit >= 2 ? 2 : 4;
+}
+
+/** How many pixels of the finer drawing a unit of the pixmap's has. */
+QSizeF finenessOf(const QImage &drawing, const QPixmap &pixmap)
+{
+    return QSizeF(qreal(drawing.width()) / pixmap.width(),
+                  qreal(drawing.height()) / pixmap.height());
+}
+
+/** The glyph so many pixels large, its corner `phase` of so many parts into the first of them. */
+QImage reducedDrawing(const QPixmap &pixmap, Glyph &glyph, QSizeF pixels, QPoint phase, int parts)
+{
+    const Reduction key{pixmap.cacheKey(), qRound(pixels.width() * scaleUnit),
+                        qRound(pixels.height() * scaleUnit), phase};
+    if (const QImage *known = reductions().object(key))
+        return *known;
+    const QSizeF fineness = finenessOf(glyph.fineDrawing(), pixmap);
+    const QSizeF scale(pixels.width() / fineness.width(), pixels.height() / fineness.height());
+    const QImage made = InkReduction::reduced(glyph.fineDrawing(), scale, QPointF(phase) / parts);
+    reductions().insert(key, new QImage(made), made.sizeInBytes());
+    return made;
+}
+
+/** Lays the drawing on the device's pixels one for one, as quick as the pixmap itself. */
+void paintReduced(QPainter &painter, const QPixmap &pixmap, Glyph &glyph, QPointF topLeft)
+{
+    const QTransform toDevice = painter.deviceTransform();
+    const QSizeF pixels = pixelsPerUnit(toDevice);
+    const int parts = partsOfPixel(qMin(pixels.width(), pixels.height()));
+    const QPointF corner = toDevice.map(topLeft) * parts;
+    const QPointF nearest(std::round(corner.x()), std::round(corner.y()));
+    const QPointF pixel(std::floor(nearest.x() / parts), std::floor(nearest.y() / parts));
+    const QPoint phase = (nearest - pixel * parts).toPoint();
+    const QImage drawing = reducedDrawing(pixmap, glyph, pixels, phase, parts);
+
+    const QTransform before = painter.worldTransform();
+    painter.setWorldTransform(QTransform::fromTranslate(pixel.x(), pixel.y()) *
+                              toDevice.inverted() * before);
+    painter.drawImage(QPointF(0, 0), drawing);
+    painter.setWorldTransform(before);
+}
+
+/** A turned glyph is first given its size, then turned, with white round it for soft edges. */
+void paintTurned(QPainter &painter, const QPixmap &pixmap, Glyph &glyph, QPointF topLeft)
+{
+    const QPoint border(1, 1);
+    const QSizeF pixels = pixelsPerUnit(painter.deviceTransform());
+    const QImage drawing = reducedDrawing(pixmap, glyph, pixels, border, 1);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(
+        QRectF(topLeft - QPointF(border) / pixels.width(), QSizeF(drawing.size()) / pixels.width()),
+        drawing);
+}
+
+void paintFinest(QPainter &painter, const QPixmap &pixmap, Glyph &glyph, QPointF topLeft)
+{
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(QRectF(topLeft, QSizeF(pixmap.size())), glyph.fineDrawing());
+}
+
+/** For a picture that is shown at sizes not yet known, as the print preview does. */
+void paintOutline(QPainter &painter, const QPixmap &pixmap, Glyph &glyph, QPointF topLeft)
+{
+    const QSizeF fineness = finenessOf(glyph.fineDrawing(), pixmap);
+    const QTransform place = QTransform::fromTranslate(topLeft.x(), topLeft.y())
+                                 .scale(1 / fineness.width(), 1 / fineness.height());
+    const bool smooth = painter.testRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(place.map(glyph.fineOutline()), Qt::black);
+    painter.setRenderHint(QPainter::Antialiasing, smooth);
 }
 } // namespace
 
@@ -71,19 +184,27 @@ QImage GlyphDrawings::loadInk(const QString &path, const QColor &ink)
 
 void GlyphDrawings::setFineDrawing(const QPixmap &pixmap, const QString &path)
 {
-    levelsByPixmap().insert(pixmap.cacheKey(), Levels{path, {}});
+    glyphsByPixmap().insert(pixmap.cacheKey(), Glyph{path, {}, {}});
 }
 
-QImage GlyphDrawings::fineDrawing(const QPixmap &pixmap, const QPainter &painter)
+bool GlyphDrawings::paint(QPainter &painter, const QPixmap &pixmap, QPointF topLeft)
 {
-    const qreal pixelsPerUnit = devicePixelsPerUnit(painter);
-    if (pixelsPerUnit <= 1.0)
-        return QImage();
-    const auto found = levelsByPixmap().find(pixmap.cacheKey());
-    if (found == levelsByPixmap().end())
-        return QImage();
-    std::size_t index = 0;
-    while (index + 1 < levelScales.size() && levelScales[index] < pixelsPerUnit)
-        ++index;
-    return found->level(index);
+    if (isPixelForPixel(painter))
+        return false;
+    const auto found = glyphsByPixmap().find(pixmap.cacheKey());
+    if (found == glyphsByPixmap().end() || found->fineDrawing().isNull())
+        return false;
+    const QPaintEngine::Type engine = painter.paintEngine()->type();
+    const QSizeF pixels = pixelsPerUnit(painter.deviceTransform());
+    const QSizeF fineness = finenessOf(found->fineDrawing(), pixmap);
+    if (engine == QPaintEngine::Picture)
+        paintOutline(painter, pixmap, *found, topLeft);
+    else if (PaperPainting::isPrinter(painter) || engine == QPaintEngine::SVG ||
+             pixels.width() >= fineness.width() || pixels.height() >= fineness.height())
+        paintFinest(painter, pixmap, *found, topLeft);
+    else if (isUpright(painter.deviceTransform()))
+        paintReduced(painter, pixmap, *found, topLeft);
+    else if (!pixels.isEmpty())
+        paintTurned(painter, pixmap, *found, topLeft);
+    return true;
 }

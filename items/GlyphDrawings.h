@@ -8,9 +8,9 @@ class QPainter;
 /**
  * The finer drawings behind the glyphs' pixmaps.
  *
- * A glyph's pixmap is drawn at 8 pixels a staff space, right for an ordinary screen at 100 %. On
- * a dense screen, when zoomed in, and on paper the same glyph is drawn from a picture of up to 64
- * pixels a space, over the same rectangle.
+ * A glyph's pixmap is drawn at 8 pixels a staff space, right for an ordinary screen at 100 %. At
+ * any other size the same glyph is drawn from a picture of 64 pixels a space, over the same
+ * rectangle: made smaller so that no ink is lost, or on paper as fine as it is.
  */
 namespace GlyphDrawings
 {
@@ -21,8 +21,9 @@ QImage loadInk(const QString &path, const QColor &ink = Qt::black);
 void setFineDrawing(const QPixmap &pixmap, const QString &path);
 
 /**
- * The drawing of `pixmap` that suits the painter's device and zoom best: the coarsest that has a
- * pixel for each of the device's. Null if the pixmap itself suits, or has no finer drawing.
+ * Draws `pixmap`'s finer drawing where the pixmap would lie with its corner at `topLeft`, in the
+ * painter's coordinates. False, with nothing drawn, if the pixmap itself suits the painter's
+ * device and zoom, or has no finer drawing.
  */
-QImage fineDrawing(const QPixmap &pixmap, const QPainter &painter);
+bool paint(QPainter &painter, const QPixmap &pixmap, QPointF topLeft);
 } // namespace GlyphDrawings

@@ -55,20 +55,9 @@ void TonquillBitmap::paint(QPainter *painter, const QStyleOptionGraphicsItem *op
 void TonquillBitmap::paintWith(QPainter *painter, const QStyleOptionGraphicsItem &option,
                                QWidget *widget)
 {
-    const QImage fine = GlyphDrawings::fineDrawing(pixmap(), *painter);
-    if (fine.isNull())
+    if (!GlyphDrawings::paint(*painter, pixmap(), offset()))
         QGraphicsPixmapItem::paint(painter, &option, widget);
-    else
-        paintFine(painter, fine, option);
-}
-
-/** Draws the finer picture of the glyph in the place of the pixmap, and the selection's outline. */
-void TonquillBitmap::paintFine(QPainter *painter, const QImage &drawing,
-                               const QStyleOptionGraphicsItem &option) const
-{
-    painter->setRenderHint(QPainter::SmoothPixmapTransform);
-    painter->drawImage(QRectF(offset(), QSizeF(pixmap().size())), drawing);
-    if (option.state & QStyle::State_Selected)
+    else if (option.state & QStyle::State_Selected)
         PaperPainting::drawSelectionOutline(painter, boundingRect(), option);
 }
 

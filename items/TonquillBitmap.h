@@ -53,8 +53,6 @@ protected:
 private:
     bool canInvertNow() const;
     void paintWith(QPainter *painter, const QStyleOptionGraphicsItem &option, QWidget *widget);
-    void paintFine(QPainter *painter, const QImage &drawing,
-                   const QStyleOptionGraphicsItem &option) const;
 
     ItemStatus m_itemStatus;
     bool m_inverted = false;

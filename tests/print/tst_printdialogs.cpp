@@ -21,9 +21,8 @@ constexpr int pageSetupButton = 4;
 constexpr int printButton = 5;
 
 /** The paper of the preview's first page, without the desk on which it lies. */
-QImage paperIn(const QPrintPreviewWidget &preview)
+QImage paperIn(const QPrintPreviewWidget &preview, qreal zoom)
 {
-    constexpr qreal zoom = 3.0;
     QGraphicsScene *desk = preview.findChild<QGraphicsView *>()->scene();
     const QRectF page = desk->items().constFirst()->sceneBoundingRect();
     QImage image((page.size() * zoom).toSize(), QImage::Format_RGB32);
@@ -34,6 +33,17 @@ QImage paperIn(const QPrintPreviewWidget &preview)
     QImage white = image;
     white.invertPixels();
     return image.copy(inkOf(white, 0).toRect());
+}
+
+/** How much ink a picture has: a pixel that is all black counts as 1. */
+double amountOfInk(const QImage &picture)
+{
+    double ink = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            ink += (255 - qGray(picture.pixel(x, y))) / 255.0;
+    }
+    return ink;
 }
 } // namespace
 
@@ -46,6 +56,8 @@ private Q_SLOTS:
     void init();
     void previewShowsEveryPage();
     void previewLooksLikeThePage();
+    void previewShowsAllInkAtAnyZoom_data();
+    void previewShowsAllInkAtAnyZoom();
     void previewShowsNoSelection();
     void pageSetupTurnsThePaper();
     void cancelledPageSetupChangesNothing();
@@ -59,7 +71,8 @@ private Q_SLOTS:
 private:
     void trigger(int button);
     void setUpLandscape(void (QDialog::*end)());
-    QImage previewed();
+    QList<QImage> previewed(const QList<qreal> &zooms);
+    QImage previewed() { return previewed({3.0}).constFirst(); }
 
     LetterDocument m_document;
 };
@@ -98,21 +111,58 @@ void PrintDialogsTest::previewShowsEveryPage()
     QVERIFY(m_document.window.findChildren<QMessageBox *>().isEmpty());
 }
 
-/** The paper as the preview shows it. */
-QImage PrintDialogsTest::previewed()
+/** The paper as the preview shows it at each of several zooms. */
+QList<QImage> PrintDialogsTest::previewed(const QList<qreal> &zooms)
 {
-    QImage paper;
-    ModalAnswer::whenOpen<QPrintPreviewDialog>([&paper](QPrintPreviewDialog &dialog) {
-        paper = paperIn(*dialog.findChild<QPrintPreviewWidget *>());
+    QList<QImage> papers;
+    ModalAnswer::whenOpen<QPrintPreviewDialog>([&](QPrintPreviewDialog &dialog) {
+        for (const qreal zoom : zooms)
+            papers.append(paperIn(*dialog.findChild<QPrintPreviewWidget *>(), zoom));
     });
     trigger(previewButton);
-    return paper;
+    return papers;
 }
 
 void PrintDialogsTest::previewLooksLikeThePage()
 {
     m_document.addNineKinds();
     QCOMPARE(m_document.misplacedItems(previewed()), QStringList());
+}
+
+void PrintDialogsTest::previewShowsAllInkAtAnyZoom_data()
+{
+    QTest::addColumn<int>("symbol");
+    QTest::addColumn<QString>("drawing");
+    QTest::newRow("quarter note") << 19 << "QuarterNote1";
+    QTest::newRow("eighth note, inverted") << 23 << "EighthNote2";
+    QTest::newRow("half note") << 16 << "HalfNote1";
+    QTest::newRow("treble clef") << 2 << "GClef";
+    QTest::newRow("sharp") << 4 << "Sharp";
+    QTest::newRow("ledger line") << 9 << "StaffLine";
+}
+
+/** However small the preview shows a page, notes have stems and clefs their thin lines. */
+void PrintDialogsTest::previewShowsAllInkAtAnyZoom()
+{
+    QFETCH(int, symbol);
+    QFETCH(QString, drawing);
+    const QString record = QString("tonquill_bitmap %1 300 400 0").arg(symbol);
+    m_document.window.scene->constructItem(record, false, 0);
+    // The drawing has 8 pixels to a unit.
+    const double units = amountOfInk(QImage(":/images/fine/" + drawing + ".png")) / 64;
+    const QRectF inches = LetterDocument::onPaper(QRectF(270, 360, 60, 80));
+    const double inchesToUnit = inches.width() / 60 * inches.height() / 80;
+    const QList<qreal> zooms{0.3, 0.5, 0.62, 0.8, 1.0, 1.7, 4.0};
+    const QList<QImage> papers = previewed(zooms);
+    for (qsizetype i = 0; i < zooms.size(); ++i) {
+        const double dots = 96 * zooms[i];
+        const QRectF part(inches.topLeft() * dots, inches.size() * dots);
+        const double ink = amountOfInk(papers[i].copy(part.toAlignedRect()));
+        const double expected = units * inchesToUnit * dots * dots;
+        QVERIFY2(
+            std::abs(ink - expected) <= 0.03 * expected,
+            qPrintable(QString("%1 instead of %2 at %3").arg(ink).arg(expected).arg(zooms[i])));
+    }
 }
 
 void PrintDialogsTest::previewShowsNoSelection()
