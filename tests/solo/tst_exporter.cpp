@@ -10,6 +10,8 @@
 #include <QLineEdit>
 #include <QMessageBox>
 
+#include <cmath>
+
 /** Exports that come to no end: what the user is told, and what is left behind. */
 class ExporterTest : public QObject
 {
@@ -22,6 +24,8 @@ private Q_SLOTS:
     void aPdfThatFailsIsToldOnce();
     void withoutATemporaryFolderNothingIsPrinted();
     void aCancelledPdfIsNotSpokenOf();
+    void aPngHasAllInkAtAnyResolution_data();
+    void aPngHasAllInkAtAnyResolution();
 
 private:
     void choosePath();
@@ -112,6 +116,47 @@ void ExporterTest::aCancelledPdfIsNotSpokenOf()
     QCOMPARE(watch.shown, 1);
     QVERIFY(boxes().isEmpty());
     QVERIFY(!QFileInfo::exists(path()));
+}
+
+void ExporterTest::aPngHasAllInkAtAnyResolution_data()
+{
+    QTest::addColumn<int>("dots");
+    for (const int dots : {20, 50, 72, 96, 150, 300})
+        QTest::addRow("%d dpi", dots) << dots;
+}
+
+/** Eight quarter notes keep their stems however coarse the picture is, and wherever they lie. */
+void ExporterTest::aPngHasAllInkAtAnyResolution()
+{
+    QFETCH(int, dots);
+    constexpr int notes = 8;
+    const auto inkOf = [](const QImage &image) {
+        double ink = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                ink += (255 - qGray(image.pixel(x, y))) / 255.0;
+        }
+        return ink;
+    };
+    const ExportOptions options{1, dots};
+    const QString png = m_folder->filePath("page.png");
+    QCOMPARE(Exporter(m_solo->window()).write(png, options), QString());
+    // The outlines of the page, without which no page is.
+    const double empty = inkOf(QImage(png));
+    for (int i = 0; i < notes; ++i)
+        m_solo->window().scene->constructItem(
+            QString("tonquill_bitmap 19 %1 %2 0").arg(200 + 37 * i).arg(300 + 11 * i), false, 0);
+    QCOMPARE(Exporter(m_solo->window()).write(png, options), QString());
+    // The drawing has 8 pixels to a unit; an inch has 88 units across and 90 down. What is drawn
+    // from the frame's corner fills the sheet's frame, with 2 units more on each side.
+    const QRectF frame = m_solo->window().scene->pageRect;
+    const double across = dots / 88.0 * frame.width() / (frame.width() + 4);
+    const double down = dots / 90.0 * frame.height() / (frame.height() + 4);
+    const double units = inkOf(QImage(":/images/fine/QuarterNote1.png")) / 64;
+    const double expected = notes * units * across * down;
+    const double ink = inkOf(QImage(png)) - empty;
+    QVERIFY2(std::abs(ink - expected) <= 0.02 * expected,
+             qPrintable(QString("%1 instead of %2").arg(ink).arg(expected)));
 }
 
 TONQUILL_SOLO_TEST_MAIN(ExporterTest)
