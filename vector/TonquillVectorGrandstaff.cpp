@@ -15,5 +15,5 @@ TonquillVectorGrandstaff::TonquillVectorGrandstaff(bool adding, QPointF start, Q
 void TonquillVectorGrandstaff::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
     painter->setPen(PaperPainting::linePen(*painter));
-    painter->drawLines(VectorShapes::grandstaff(startPoint(), endPoint()));
+    painter->drawLines(VectorShapes::grandstaffDrawnOnce(startPoint(), endPoint()));
 }

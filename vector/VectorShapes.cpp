@@ -68,6 +68,18 @@ QList<QLine> VectorShapes::grandstaff(QPointF start, QPointF end)
     return lines;
 }
 
+QList<QLine> VectorShapes::grandstaffDrawnOnce(QPointF start, QPointF end)
+{
+    constexpr int leftEdge = 0;
+    constexpr int rightEdge = leftEdge + staffLines + 1;
+    QList<QLine> lines = grandstaff(start, end);
+    if (lines.size() > rightEdge + 1) {
+        lines.removeAt(rightEdge);
+        lines.removeAt(leftEdge);
+    }
+    return lines;
+}
+
 QList<QLine> VectorShapes::line(QPointF start, QPointF end)
 {
     return {wholeLine(start.x(), start.y(), end.x(), end.y())};

@@ -17,6 +17,12 @@ namespace VectorShapes
 /** One five-line staff, or two joined ones when the end lies more than 80 below the start. */
 QList<QLine> grandstaff(QPointF start, QPointF end);
 
+/**
+ * The lines of a grand staff without the upper staff's edges where the long ones cover them. Where
+ * edges are soft, what is drawn twice is darker.
+ */
+QList<QLine> grandstaffDrawnOnce(QPointF start, QPointF end);
+
 /** The straight line between the points. */
 QList<QLine> line(QPointF start, QPointF end);
 

@@ -45,6 +45,7 @@ class VectorShapesTest : public QObject
 private Q_SLOTS:
     void grandstaff_data();
     void grandstaff();
+    void grandstaffDrawnOnce();
     void line_data();
     void line();
     void tablature_data();
@@ -96,6 +97,19 @@ void VectorShapesTest::grandstaff()
     QFETCH(QPointF, end);
     QFETCH(Lines, lines);
     QCOMPARE(VectorShapes::grandstaff(start, end), lines);
+}
+
+/** Two staves have only the edges that join them, a single one has its own. */
+void VectorShapesTest::grandstaffDrawnOnce()
+{
+    const Lines upperLines{level(0, 0, 70), level(8, 0, 70), level(16, 0, 70), level(24, 0, 70),
+                           level(32, 0, 70)};
+    const Lines lowerLines{level(68, 0, 70), level(76, 0, 70), level(84, 0, 70), level(92, 0, 70),
+                           level(100, 0, 70)};
+    QCOMPARE(VectorShapes::grandstaffDrawnOnce(QPointF(0, 0), QPointF(70, 80)),
+             Lines{upright(0, 0, 32)} + upperLines + Lines{upright(70, 0, 32)});
+    QCOMPARE(VectorShapes::grandstaffDrawnOnce(QPointF(0, 0), QPointF(70, 100)),
+             upperLines + Lines{upright(0, 0, 100)} + lowerLines + Lines{upright(70, 0, 100)});
 }
 
 void VectorShapesTest::line_data()
