@@ -16,6 +16,22 @@ constexpr qreal pointsPerInch = 72.0;
 /** 1/96 inch in scene units, between those across and those down. */
 constexpr qreal lineInDrawing = 0.93;
 
+PaperPainting::ScreenLines &screenLines()
+{
+    static PaperPainting::ScreenLines lines = PaperPainting::ScreenLines::OnePixel;
+    return lines;
+}
+
+/** In device pixels; 0 stands for one pixel, which is drawn more quickly. */
+qreal lineOnScreen(const QPainter &painter)
+{
+    if (screenLines() == PaperPainting::ScreenLines::OnePixel)
+        return 0;
+    const int width = qRound(lineInDrawing * QStyleOptionGraphicsItem::levelOfDetailFromTransform(
+                                                 painter.deviceTransform()));
+    return width > 1 ? width : 0;
+}
+
 /** True for a picture with more dots to the inch than a screen has. */
 bool isFinePicture(const QPainter &painter)
 {
@@ -40,13 +56,19 @@ QStyleOptionGraphicsItem PaperPainting::optionFor(const QPainter &painter,
     return result;
 }
 
+void PaperPainting::setScreenLines(ScreenLines lines)
+{
+    screenLines() = lines;
+}
+
 QPen PaperPainting::linePen(const QPainter &painter, const QColor &color)
 {
     // A drawing is scaled by whoever shows it, and its lines with it.
     if (painter.paintEngine()->type() == QPaintEngine::SVG)
         return QPen(color, lineInDrawing);
     const bool isFine = isPrinter(painter) || isFinePicture(painter);
-    QPen pen(color, isFine ? painter.device()->logicalDpiX() / screenDotsPerInch : 0.0);
+    QPen pen(color,
+             isFine ? painter.device()->logicalDpiX() / screenDotsPerInch : lineOnScreen(painter));
     pen.setCosmetic(true);
     return pen;
 }

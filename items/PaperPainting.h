@@ -16,10 +16,19 @@ bool isPrinter(const QPainter &painter);
 /** The option to paint with: on paper without any state, so that no selection mark is printed. */
 QStyleOptionGraphicsItem optionFor(const QPainter &painter, const QStyleOptionGraphicsItem &option);
 
+/** How wide lines are on screen. */
+enum class ScreenLines {
+    OnePixel, ///< at any zoom
+    AsOnPaper ///< 1/96 inch of the page, to the next whole pixel, but never less than one
+};
+
+/** To be chosen by the program, for all of its windows; without a choice it is OnePixel. */
+void setScreenLines(ScreenLines lines);
+
 /**
- * The cosmetic pen of all lines: one device pixel on screen at any zoom. Paper and pictures of
- * paper have finer pixels, on which such a line could not be seen; there a line is 1/96 inch wide
- * at every resolution.
+ * The cosmetic pen of all lines: on screen one device pixel wide at any zoom, unless the program
+ * has chosen otherwise. Paper and pictures of paper have finer pixels, on which such a line could
+ * not be seen; there a line is 1/96 inch wide at every resolution.
  */
 QPen linePen(const QPainter &painter, const QColor &color = Qt::black);
 

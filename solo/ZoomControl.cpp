@@ -1,5 +1,6 @@
 #include "ZoomControl.h"
 
+#include "PaperPainting.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 #include "TonquillView.h"
@@ -21,6 +22,12 @@ ZoomControl::ZoomControl(TonquillMainWin &window)
     : m_window(window)
 {
     window.view()->viewport()->installEventFilter(this);
+    PaperPainting::setScreenLines(PaperPainting::ScreenLines::AsOnPaper);
+}
+
+ZoomControl::~ZoomControl()
+{
+    PaperPainting::setScreenLines(PaperPainting::ScreenLines::OnePixel);
 }
 
 double ZoomControl::scale() const

@@ -1,10 +1,13 @@
 #include "ItemProbe.h"
+#include "PaperPainting.h"
 #include "TestMain.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 #include "TonquillView.h"
+#include "VectorShapes.h"
 
 #include <QProcess>
+#include <QScopeGuard>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
@@ -59,6 +62,11 @@ private Q_SLOTS:
     void init() { m_window.scene->clearScene(); }
     void linesAreOnePixelOnScreen_data();
     void linesAreOnePixelOnScreen();
+    void linesGrowWithTheZoomWhereChosen_data();
+    void linesGrowWithTheZoomWhereChosen();
+    void staffEdgesAreEvenlyDark_data();
+    void staffEdgesAreEvenlyDark();
+    void twoStavesAreOnScreenAsEver();
     void linesAreAsWideOnAnyPaper_data();
     void linesAreAsWideOnAnyPaper();
     void numeralsAreAsLargeOnAnyPaper_data();
@@ -160,6 +168,78 @@ void PensTest::linesAreOnePixelOnScreen()
         QCOMPARE(ItemProbe::pixelsOf(column, Qt::black), lines);
         QCOMPARE(ItemProbe::pixelsOf(column, Qt::white), image.height() - lines);
     }
+}
+
+void PensTest::linesGrowWithTheZoomWhereChosen_data()
+{
+    addFigures();
+}
+
+/** A line on paper is 1/96 inch, that is 0.93 units, and on screen so many whole pixels. */
+void PensTest::linesGrowWithTheZoomWhereChosen()
+{
+    QFETCH(QString, record);
+    QFETCH(double, cut);
+    QFETCH(int, lines);
+    m_window.scene->constructItem(record, false, 0);
+    const QRectF area(190, 280, 120, 140);
+    PaperPainting::setScreenLines(PaperPainting::ScreenLines::AsOnPaper);
+    const auto reset =
+        qScopeGuard([] { PaperPainting::setScreenLines(PaperPainting::ScreenLines::OnePixel); });
+    const QList<std::pair<qreal, int>> widths{{0.5, 1}, {1.0, 1}, {1.5, 1}, {2.0, 2}, {3.3, 3}};
+    for (const auto &[zoom, pixels] : widths) {
+        const QImage image = viewed(area, zoom);
+        const QList<int> runs = runsInColumn(image, int((cut - area.left()) * zoom));
+        QCOMPARE(runs, QList<int>(lines, pixels));
+    }
+}
+
+void PensTest::staffEdgesAreEvenlyDark_data()
+{
+    QTest::addColumn<int>("dpi");
+    for (const int dpi : {72, 96, 150, 300, 600})
+        QTest::addRow("%d dpi", dpi) << dpi;
+}
+
+/** With soft edges too, the edge of the upper of two staves is as dark as that between them. */
+void PensTest::staffEdgesAreEvenlyDark()
+{
+    QFETCH(int, dpi);
+    m_window.scene->constructItem("tonquill_grandstaff 200 300 0 0 100 100", false, 0);
+    const double scale = dpi / 88.0;
+    QImage image((QSizeF(120, 120) * scale).toSize(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    image.setDotsPerMeterX(qRound(dpi / 0.0254));
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    m_window.scene->render(&painter, QRectF(QPointF(), QSizeF(120, 120) * scale),
+                           QRectF(190, 290, 120, 120));
+    painter.end();
+    // Between two lines of the upper staff, at y = 304, and between the staves, at y = 350.
+    const auto inkInRow = [&](double y) {
+        int ink = 0;
+        for (int x = 0; x < image.width(); ++x)
+            ink += 255 - qGray(image.pixel(x, int((y - 290) * scale)));
+        return ink;
+    };
+    QVERIFY(inkInRow(350) > 0);
+    QCOMPARE(inkInRow(304), inkInRow(350));
+}
+
+/** On screen at 100 % an edge is the same pixels whether it is drawn once or twice. */
+void PensTest::twoStavesAreOnScreenAsEver()
+{
+    m_window.scene->constructItem("tonquill_grandstaff 200 300 0 0 100 100", false, 0);
+    const QRectF area(190, 290, 120, 120);
+    QImage expected(120, 120, QImage::Format_RGB32);
+    expected.fill(Qt::white);
+    QPainter painter(&expected);
+    painter.setPen(QPen(Qt::black, 0));
+    painter.translate(10, 10);
+    painter.drawLines(VectorShapes::grandstaff(QPointF(0, 0), QPointF(100, 100)));
+    painter.end();
+    const QImage shown = viewed(area, 1.0).convertToFormat(QImage::Format_RGB32);
+    QCOMPARE(shown.copy(expected.rect()), expected);
 }
 
 void PensTest::linesAreAsWideOnAnyPaper_data()

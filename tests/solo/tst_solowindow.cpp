@@ -2,6 +2,7 @@
 #include "MenuBar.h"
 #include "ModalAnswer.h"
 #include "PaletteTable.h"
+#include "PaperPainting.h"
 #include "SoloTestMain.h"
 #include "SoloWindow.h"
 #include "TonquillBitmap.h"
@@ -13,6 +14,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTimer>
@@ -42,6 +44,7 @@ private Q_SLOTS:
     void undoFromToolbarAndMenuIsTheSame();
     void nothingLeftToUndoIsSaid();
     void ctrlAndWheelZoomAtThePointer();
+    void linesGrowWithTheZoomWhileItIsThere();
     void openingABrokenFileChangesNothing();
     void partOfADamagedFileIsOffered();
     void aRecoveredDocumentIsUnsaved();
@@ -351,6 +354,23 @@ void SoloWindowTest::ctrlAndWheelZoomAtThePointer()
     QCOMPARE(view.transform().m11(), 1.25);
     entry("100 %")->trigger();
     QCOMPARE(view.transform().m11(), 1.0);
+}
+
+/** At 300 % a line of 0.93 units is 2.8 pixels wide, so 3. Another window's are one pixel. */
+void SoloWindowTest::linesGrowWithTheZoomWhileItIsThere()
+{
+    const auto widthAt = [](qreal zoom) {
+        QImage image(10, 10, QImage::Format_RGB32);
+        QPainter painter(&image);
+        painter.scale(zoom, zoom);
+        return PaperPainting::linePen(painter).widthF();
+    };
+    QCOMPARE(widthAt(3.0), 3.0);
+    QCOMPARE(widthAt(1.0), 0.0);
+    m_solo->session().close();
+    m_solo.reset();
+    QCOMPARE(widthAt(3.0), 0.0);
+    init();
 }
 
 void SoloWindowTest::openingABrokenFileChangesNothing()
