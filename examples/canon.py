@@ -72,7 +72,8 @@ def system(document, index, top, page_top):
     staves = [Staff(document, top + i * STAFF_DISTANCE, "F" if i == 3 else "G") for i in range(4)]
     bottom = staves[-1].top + STAFF
     left = LEFT + 36
-    document.line(left + LINE, top + LINE, left + LINE, bottom + LINE)
+    for upper, lower in zip(staves, staves[1:]):
+        document.line(left + LINE, upper.top + STAFF + LINE, left + LINE, lower.top + LINE)
     document.thick_line(left - 5, top - 3, left - 5, bottom + 4, 4, upright=True)
     for name, staff in zip(VOICES, staves):
         staff.draw_lines(left)

@@ -5,6 +5,7 @@ middle of its head.
 """
 
 import functools
+import math
 
 from PIL import ImageFont
 
@@ -23,10 +24,16 @@ REST_AT = {1: -SPACE, 2: 0, 4: 0, 8: 0}
 # From the middle of a note's picture to the middle of its head, and on to the stem.
 HEAD_DOWN = 12
 STEM_ASIDE = 4.5
-STEM_LENGTH = 28
 FLAG_ROOM = 4
 # Lines are centred on the rows and columns that the glyphs' own lines fill.
 LINE = 0.5
+# How far a note's own stem reaches from the middle of its head, and how far a beam's outer edge
+# lies from there: far enough to hold the stem's end however the beam slopes.
+STEM_LENGTH = 28.5
+BEAM_REACH = 29
+BEAM = 4
+# Lines laid side by side lie so close that they join on every screen and in every picture.
+CLOSE = 0.5
 
 ACCIDENTALS = {"#": (SHARP, 0), "b": (FLAT, -4), "n": (NATURAL, 0)}
 # The lowest line of a staff: E4 and G2, counted in steps of the scale.
@@ -40,8 +47,13 @@ FONTS = {
     ("Arial", True): "LiberationSans-Bold.ttf",
 }
 TEXT_MARGIN = 4
-# From the upper edge of the notation font's room for letters to that of its figures, at 24 points.
-FIGURES_DOWN = 38
+# Figures of a time signature leave a little room within their two spaces, so that two of them do
+# not touch; the notation font's fill these at 24 points.
+FIGURE_SIZE = 22
+FIGURE_HEIGHT = 2 * SPACE * FIGURE_SIZE / 24
+FIGURE_WIDTH = 11 * FIGURE_SIZE / 24
+# From the upper edge of the notation font's room for letters to that of its figures.
+FIGURES_DOWN = 38 * FIGURE_SIZE / 24
 
 
 def step(pitch):
@@ -119,7 +131,7 @@ class Document:
 
     def thick_line(self, x1, y1, x2, y2, thickness, upright=False):
         """Thin lines laid side by side."""
-        count = max(2, round(thickness / 0.8) + 1)
+        count = math.ceil((thickness - 1) / CLOSE) + 1
         for i in range(count):
             offset = i * (thickness - 1) / (count - 1) - (thickness - 1) / 2
             dx, dy = (offset, 0) if upright else (0, offset)
@@ -133,9 +145,11 @@ class Document:
             self.line(x + LINE, top + LINE, x + LINE, bottom + LINE)
 
     def time_signature(self, x, top, upper, lower):
-        """Figures of the notation font, each two spaces high."""
+        """Figures of the notation font, each in the middle of two spaces."""
+        inset = LINE + (2 * SPACE - FIGURE_HEIGHT) / 2
         for figures, y in ((upper, top), (lower, top + 2 * SPACE)):
-            self.text(x - 5.5 * len(figures), y - FIGURES_DOWN, figures, "Musica", 24)
+            self.text(x - FIGURE_WIDTH / 2 * len(figures), y + inset - FIGURES_DOWN, figures,
+                      "Musica", FIGURE_SIZE)  # fmt: skip
 
     def save(self, path):
         paper = " ".join(map(number, PAPER))
@@ -209,10 +223,12 @@ class Staff:
         ends = self._beam_ends(ys, way, stems)
         slope = (ends[1] - ends[0]) / (stems[-1] - stems[0])
         for stem, y in zip(stems, ys):
-            end = ends[0] + slope * (stem - stems[0])
-            self.document.line(stem, y + way * (STEM_LENGTH - 4), stem, end)
-        inset = way * 2
-        self.document.thick_line(stems[0], ends[0] - inset, stems[-1], ends[1] - inset, 4)
+            # It ends within the beam, and begins within the note's own stem.
+            end = ends[0] + slope * (stem - stems[0]) - way
+            length = math.ceil(abs(end - y - LINE) - STEM_LENGTH + BEAM)
+            self.document.line(stem, end - way * length, stem, end)
+        inset = way * BEAM / 2
+        self.document.thick_line(stems[0], ends[0] - inset, stems[-1], ends[1] - inset, BEAM)
 
     @staticmethod
     def _beam_ends(ys, way, stems):
@@ -220,5 +236,5 @@ class Staff:
         rise = max(-SPACE, min(SPACE, (ys[-1] - ys[0]) // 2))
         offsets = [rise * (stem - stems[0]) / (stems[-1] - stems[0]) for stem in stems]
         extreme = min if way < 0 else max
-        begin = round(extreme(y + way * STEM_LENGTH - o for y, o in zip(ys, offsets)))
+        begin = extreme(y + LINE + way * BEAM_REACH - o for y, o in zip(ys, offsets))
         return begin, begin + rise

@@ -72,13 +72,14 @@ def system(document, index, top):
         document.time_signature(LEFT + 46, top, "6", "8")
         begin += 16
     width = (RIGHT - begin) / BARS_PER_SYSTEM
-    document.line(LEFT + LINE, top + LINE, LEFT + LINE, tab_bottom + LINE)
+    document.line(LEFT + LINE, top + STAFF + LINE, LEFT + LINE, tab_top + LINE)
     for i in range(BARS_PER_SYSTEM):
         number = index * BARS_PER_SYSTEM + i
         bar(staff, number, begin + i * width + 18, width - 26)
         x = round(begin + (i + 1) * width)
         last = number == len(BARS) - 1
-        document.barline(x, top, top + STAFF, final=last)
+        if last or i < BARS_PER_SYSTEM - 1:
+            document.barline(x, top, top + STAFF, final=last)
         document.barline(x, tab_top, tab_bottom, final=last)
 
 
