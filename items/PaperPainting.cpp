@@ -88,7 +88,9 @@ void PaperPainting::drawText(QPainter *painter, const QGraphicsTextItem &item,
     context.palette.setColor(QPalette::Text, item.defaultTextColor());
     context.clip = exposed;
     painter->save();
-    painter->setClipRect(exposed, Qt::IntersectClip);
+    // Nothing lies within a rectangle whose corners are crossed, yet the screen shows such a text.
+    if (exposed.isValid())
+        painter->setClipRect(exposed, Qt::IntersectClip);
     item.document()->documentLayout()->draw(painter, context);
     painter->restore();
 }

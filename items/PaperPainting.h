@@ -40,7 +40,8 @@ QFont inSceneUnits(const QFont &font);
 
 /**
  * Paints a text item's text and nothing else: while it is edited, neither the text cursor nor the
- * marked words belong on paper. As on screen, it is cut off at `exposed`, in item coordinates.
+ * marked words belong on paper. As on screen, it is cut off at `exposed`, in item coordinates, and
+ * not at all if that has no positive width and height.
  */
 void drawText(QPainter *painter, const QGraphicsTextItem &item, const QRectF &exposed);
 

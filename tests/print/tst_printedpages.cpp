@@ -80,6 +80,8 @@ private Q_SLOTS:
     void selectionIsNotPrinted();
     void rubberBandIsNotPrinted();
     void editedTextIsPrintedWithoutItsCursor();
+    void blocksWithCrossedCornersArePrinted_data();
+    void blocksWithCrossedCornersArePrinted();
     void everyItemIsPaintedOnce();
     void filesGrowByAsMuchForEveryPage();
 
@@ -280,6 +282,41 @@ void PrintedPagesTest::editedTextIsPrintedWithoutItsCursor()
     block->setTextCursor(cursor);
     QVERIFY(m_document.print().undatedBytes() == unedited);
     QVERIFY(block->textCursor().hasSelection());
+}
+
+void PrintedPagesTest::blocksWithCrossedCornersArePrinted_data()
+{
+    QTest::addColumn<QPointF>("corner");
+    QTest::addColumn<int>("dpi");
+    for (const int dpi : {96, 1200}) {
+        QTest::addRow("left, %d", dpi) << QPointF(-60, 60) << dpi;
+        QTest::addRow("above, %d", dpi) << QPointF(80, -50) << dpi;
+        QTest::addRow("left and above, %d", dpi) << QPointF(-30, -10) << dpi;
+        QTest::addRow("onto its corner, %d", dpi) << QPointF(0, 0) << dpi;
+    }
+}
+
+/** Pulled over its top-left corner by its other one, a block looks on paper as on screen. */
+void PrintedPagesTest::blocksWithCrossedCornersArePrinted()
+{
+    QFETCH(QPointF, corner);
+    QFETCH(int, dpi);
+    const QPointF place(300, 400);
+    // A block is one unit wider than it is told to be.
+    auto *block =
+        new TonquillTextBlock(false, "two words", QRectF(0, 0, corner.x() - 1, corner.y()));
+    m_document.window.scene->addNewItem(block);
+    block->setPos(place);
+    QCOMPARE(block->boundingRect(), QRectF(QPointF(0, 0), corner));
+
+    const QRectF around(100, 300, 400, 300);
+    const QRectF ink = inkOf(ItemProbe::pictureOf(*m_document.window.scene, around, 3.0));
+    QVERIFY(!ink.isEmpty());
+    const QRectF expected =
+        LetterDocument::onPaper(QRectF(around.topLeft() + ink.topLeft() / 3, ink.size() / 3));
+    const PdfFile pdf = m_document.print(dpi);
+    QCOMPARE(pdf.text(1).simplified(), QString("two words"));
+    QVERIFY2(areClose(pdf.ink(1), expected, 1.0 / 96), describe(pdf.ink(1), expected));
 }
 
 /** Printing is linear in the pages: no item is painted for a page on which it does not lie. */
