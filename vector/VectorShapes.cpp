@@ -9,6 +9,8 @@
 
 namespace
 {
+constexpr double pi = 3.141592653589793;
+
 constexpr int staffLines = 5;
 constexpr double staffLineSpacing = 8.0;
 constexpr double staffHeight = (staffLines - 1) * staffLineSpacing;
@@ -50,6 +52,59 @@ double withoutNoise(double value)
     constexpr double noise = 1e-4;
     const double nearest = std::round(value);
     return std::fabs(value - nearest) < noise ? nearest : value;
+}
+
+/** Of a triplet's bracket: its middle, and where its arms end and begin again. */
+struct TripletPoints
+{
+    QPointF middle;
+    QPointF firstArm;
+    QPointF secondArm;
+};
+
+/** The direction of a bracket in degrees, y down; no number for coinciding points. */
+float tripletAngle(QPointF way)
+{
+    const float slope = static_cast<float>(std::atan(way.y() / way.x()) * 180 / pi);
+    if (way.x() < 0)
+        return slope + 180.0F;
+    return way.y() < 0 ? slope + 360.0F : slope;
+}
+
+/** True for level and upright brackets, and for those without a direction. */
+bool isAlongAxis(float angle)
+{
+    return std::isnan(angle) || std::fmod(angle, 90.0F) == 0.0F;
+}
+
+/** Coinciding points count as drawn to the right. */
+TripletPoints straightTriplet(QPointF start, QPointF end)
+{
+    const QPointF way = end - start;
+    const double length = std::hypot(way.x(), way.y());
+    const QPointF direction = length > 0 ? way / length : QPointF(1, 0);
+    const double half = length * 0.5;
+    const auto exact = [](QPointF point) {
+        return QPointF(withoutNoise(point.x()), withoutNoise(point.y()));
+    };
+    return {exact(start + direction * half), exact(start + direction * (half - tripletHalfGap)),
+            exact(end - direction * (half - tripletHalfGap))};
+}
+
+/**
+ * Slanted brackets are computed in single precision, intentional: once truncated, its rounding
+ * decides between two whole coordinates wherever a point lies on one, and it has to decide the same
+ * way for ever, for what is on screen and on paper must not move by a unit.
+ */
+TripletPoints slantedTriplet(QPointF start, QPointF end, float angle)
+{
+    const QPointF way = end - start;
+    const float half = static_cast<float>(std::sqrt(way.x() * way.x() + way.y() * way.y())) * 0.5F;
+    const float arm = half - static_cast<float>(tripletHalfGap);
+    const float c = static_cast<float>(std::cos(angle * pi / 180));
+    const float s = static_cast<float>(std::sin(angle * pi / 180));
+    const QPointF armWay(c * arm, s * arm);
+    return {start + QPointF(c * half, s * half), start + armWay, end - armWay};
 }
 } // namespace
 
@@ -102,31 +157,19 @@ QList<QLine> VectorShapes::tablature(QPointF start, QPointF end)
 
 VectorShapes::Triplet VectorShapes::triplet(QPointF start, QPointF end)
 {
-    // The bracket's direction: the cosine and sine of its angle. Coinciding points have none and
-    // count as drawn to the right.
-    const double width = end.x() - start.x();
-    const double height = end.y() - start.y();
-    const double length = std::hypot(width, height);
-    const double c = length > 0 ? width / length : 1.0;
-    const double s = length > 0 ? height / length : 0.0;
     // The hooks point down for a bracket drawn left to right, up for one drawn right to left.
     const double hook = start.x() > end.x() ? -tripletHook : tripletHook;
-    const double half = length * 0.5;
-    const double arm = half - tripletHalfGap;
-    const auto along = [](QPointF from, double dx, double dy) {
-        return QPointF(withoutNoise(from.x() + dx), withoutNoise(from.y() + dy));
-    };
-    const QPointF middle = along(start, c * half, s * half);
-    const QPointF firstArm = along(start, c * arm, s * arm);
-    const QPointF secondArm = along(end, -c * arm, -s * arm);
+    const float angle = tripletAngle(end - start);
+    const TripletPoints points =
+        isAlongAxis(angle) ? straightTriplet(start, end) : slantedTriplet(start, end, angle);
 
     Triplet result;
-    result.numeral = QPoint(truncatedToInt(middle.x()),
-                            truncatedToInt(std::trunc(middle.y()) + tripletNumeralDrop));
+    result.numeral = QPoint(truncatedToInt(points.middle.x()),
+                            truncatedToInt(std::trunc(points.middle.y()) + tripletNumeralDrop));
     result.lines = {
         wholeLine(start.x(), start.y() + hook, start.x(), start.y()),
-        wholeLine(start.x(), start.y(), firstArm.x(), firstArm.y()),
-        wholeLine(secondArm.x(), secondArm.y(), end.x(), end.y()),
+        wholeLine(start.x(), start.y(), points.firstArm.x(), points.firstArm.y()),
+        wholeLine(points.secondArm.x(), points.secondArm.y(), end.x(), end.y()),
         wholeLine(end.x(), end.y(), end.x(), end.y() + hook),
     };
     return result;

@@ -52,6 +52,9 @@ private Q_SLOTS:
     void tablature();
     void triplet_data();
     void triplet();
+    void slantedTriplet_data();
+    void slantedTriplet();
+    void straightTripletsAreExact();
     void tie_data();
     void tie();
     void tieReachesToTheOrigin();
@@ -176,17 +179,6 @@ void VectorShapesTest::triplet_data()
     QTest::newRow("straight up: hooks still down")
         << QPointF(0, 100) << QPointF(0, 0) << QPoint(0, 57)
         << Lines{{0, 110, 0, 100}, {0, 100, 0, 60}, {0, 40, 0, 0}, {0, 0, 0, 10}};
-    // The way (60, 80) is 100 long: an arm of 40 goes (24, 32), half of it (30, 40).
-    QTest::newRow("slanting") << QPointF(0, 0) << QPointF(60, 80) << QPoint(30, 47)
-                              << Lines{{0, 10, 0, 0},
-                                       {0, 0, 24, 32},
-                                       {36, 48, 60, 80},
-                                       {60, 80, 60, 90}};
-    QTest::newRow("slanting up") << QPointF(0, 80) << QPointF(60, 0) << QPoint(30, 47)
-                                 << Lines{{0, 90, 0, 80},
-                                          {0, 80, 24, 48},
-                                          {36, 32, 60, 0},
-                                          {60, 0, 60, 10}};
     // Half is 5, so an arm is -5 long and goes the other way.
     QTest::newRow("shorter than its gap")
         << QPointF(0, 0) << QPointF(10, 0) << QPoint(5, 7)
@@ -208,6 +200,115 @@ void VectorShapesTest::triplet()
     const VectorShapes::Triplet shape = VectorShapes::triplet(start, end);
     QCOMPARE(shape.numeral, numeral);
     QCOMPARE(shape.lines, lines);
+}
+
+void VectorShapesTest::slantedTriplet_data()
+{
+    QTest::addColumn<QPointF>("start");
+    QTest::addColumn<QPointF>("end");
+    QTest::addColumn<QPoint>("numeral");
+    QTest::addColumn<QPoint>("firstArm");
+    QTest::addColumn<QPoint>("secondArm");
+
+    const auto row = [](const char *name, QPointF start, QPointF end, QPoint numeral,
+                        QPoint firstArm, QPoint secondArm) {
+        QTest::newRow(name) << start << end << numeral << firstArm << secondArm;
+    };
+    // The way (60, 80) is 100 long: half of it is 50, an arm 40. Its direction is 53.1301024
+    // degrees, and 53.1301041 as the nearest multiple of 2^-18, the steps of single precision from
+    // 32 to 64. That is a little too steep: the cosine is 0.59999996 instead of 0.6 and 50 times
+    // that 29.999998, so the middle is cut to 29; the sine is 0.8, half is 40 down and 7 more make
+    // 47. 40 times the cosine is 23.999998, and 60 less that is 36.000002.
+    row("to the right and down", {0, 0}, {60, 80}, {29, 47}, {23, 32}, {36, 48});
+    // -53.1301041 + 360 is 306.869896, and 306.8699036 in steps of 2^-15: not steep enough. The
+    // cosine is 0.60000008, half is 30.000004 and an arm 24.000004 across; the sine -0.79999995,
+    // which is -39.999996 and -31.999998: 40.000004 and 48.000002 are left of 80.
+    row("to the right and up", {0, 80}, {60, 0}, {30, 47}, {24, 48}, {35, 31});
+    row("to the left and up", {60, 80}, {0, 0}, {29, 47}, {35, 48}, {24, 31});
+    row("to the left and down", {60, 0}, {0, 80}, {30, 47}, {36, 32}, {23, 48});
+    // These are worked out in the same way, each intermediate rounded to the nearest number of
+    // single precision, but the coordinates of the two points and what is added to them.
+    row("120 right, 36 down, off the origin", {10, 20}, {130, 56}, {70, 45}, {60, 35}, {79, 40});
+    row("120 left, 36 up, off the origin", {130, 56}, {10, 20}, {70, 44}, {79, 40}, {60, 35});
+    row("120 right, 18 up, off the origin", {40, 200}, {160, 182}, {100, 198}, {90, 192},
+        {109, 189});
+    row("120 left, 18 down, off the origin", {160, 182}, {40, 200}, {100, 197}, {109, 189},
+        {90, 192});
+    row("100 right, 30 down", {0, 0}, {100, 30}, {50, 22}, {40, 12}, {59, 17});
+    row("100 right, 30 up", {0, 0}, {100, -30}, {50, -8}, {40, -12}, {59, -17});
+    row("100 left, 30 down", {0, 0}, {-100, 30}, {-50, 22}, {-40, 12}, {-59, 17});
+    row("100 left, 30 up", {0, 0}, {-100, -30}, {-50, -8}, {-40, -12}, {-59, -17});
+    row("41 right, 17 down", {0, 0}, {41, 17}, {20, 15}, {11, 4}, {29, 12});
+    row("41 right, 17 up", {0, 0}, {41, -17}, {20, -1}, {11, -4}, {29, -12});
+    row("41 left, 17 down", {0, 0}, {-41, 17}, {-20, 15}, {-11, 4}, {-29, 12});
+    row("41 left, 17 up", {0, 0}, {-41, -17}, {-20, -1}, {-11, -4}, {-29, -12});
+    row("120 right, 91 down, off the origin", {-50, -30}, {70, 61}, {10, 22}, {2, 9}, {17, 21});
+    row("120 left, 91 up, off the origin", {70, 61}, {-50, -30}, {10, 22}, {17, 21}, {2, 9});
+    row("120 right, 91 up, off the origin", {-50, 61}, {70, -30}, {10, 22}, {2, 21}, {17, 9});
+    row("120 left, 91 down, off the origin", {70, -30}, {-50, 61}, {10, 22}, {17, 9}, {2, 21});
+    row("2 right, 300 down", {0, 0}, {2, 300}, {0, 156}, {0, 140}, {1, 159});
+    row("2 left, 300 down", {0, 0}, {-2, 300}, {0, 156}, {0, 140}, {-1, 159});
+    row("2 left, 300 up", {0, 0}, {-2, -300}, {0, -142}, {0, -140}, {-1, -159});
+    row("2 right, 300 up", {0, 0}, {2, -300}, {0, -142}, {0, -140}, {1, -159});
+    row("300 right, 1 down", {0, 0}, {300, 1}, {150, 7}, {140, 0}, {159, 0});
+    row("300 left, 1 up", {0, 0}, {-300, -1}, {-150, 7}, {-140, 0}, {-159, 0});
+    row("300 right, 1 up", {0, 0}, {300, -1}, {150, 7}, {140, 0}, {159, 0});
+    row("300 left, 1 down", {0, 0}, {-300, 1}, {-150, 7}, {-140, 0}, {-159, 0});
+    row("124 right, 32 up, off the origin", {300, 400}, {424, 368}, {361, 390}, {352, 386},
+        {371, 381});
+    row("124 left, 32 down, off the origin", {424, 368}, {300, 400}, {362, 390}, {371, 381},
+        {352, 386});
+    row("124 right, 32 down, off the origin", {300, 368}, {424, 400}, {362, 391}, {352, 381},
+        {371, 386});
+    row("124 left, 32 up, off the origin", {424, 400}, {300, 368}, {362, 391}, {371, 386},
+        {352, 381});
+    row("12 right, 5 down", {0, 0}, {12, 5}, {6, 9}, {-3, -1}, {15, 6});
+    row("12 left, 5 up", {0, 0}, {-12, -5}, {-5, 5}, {3, 1}, {-15, -6});
+    row("between whole coordinates, right down", {0.5, 0.25}, {100.5, 40.75}, {50, 27}, {41, 16},
+        {59, 24});
+    row("between whole coordinates, left up", {33.25, 7.5}, {-66.75, -22.5}, {-16, 0}, {-7, -4},
+        {-26, -10});
+}
+
+void VectorShapesTest::slantedTriplet()
+{
+    QFETCH(QPointF, start);
+    QFETCH(QPointF, end);
+    QFETCH(QPoint, numeral);
+    QFETCH(QPoint, firstArm);
+    QFETCH(QPoint, secondArm);
+    const int hook = start.x() > end.x() ? -10 : 10;
+    const QPoint from(int(start.x()), int(start.y()));
+    const QPoint to(int(end.x()), int(end.y()));
+    const VectorShapes::Triplet shape = VectorShapes::triplet(start, end);
+    QCOMPARE(shape.numeral, numeral);
+    QCOMPARE(shape.lines, (Lines{{from.x(), int(start.y() + hook), from.x(), from.y()},
+                                 {from, firstArm},
+                                 {secondArm, to},
+                                 {to.x(), to.y(), to.x(), int(end.y() + hook)}}));
+}
+
+/** Level and upright brackets of every length up to 600, in all four directions. */
+void VectorShapesTest::straightTripletsAreExact()
+{
+    for (int length = 1; length <= 600; ++length) {
+        const double half = length / 2.0;
+        for (const QPoint direction : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)}) {
+            const QPoint start(301, 703);
+            const QPoint end = start + direction * length;
+            // What is cut off are halves only; everything here lies beyond zero.
+            const auto at = [](QPoint from, QPoint way, double far) {
+                return QPoint(int(from.x() + way.x() * far), int(from.y() + way.y() * far));
+            };
+            const int hook = direction.x() < 0 ? -10 : 10;
+            const VectorShapes::Triplet shape = VectorShapes::triplet(start, end);
+            QCOMPARE(shape.numeral, at(start, direction, half) + QPoint(0, 7));
+            QCOMPARE(shape.lines, (Lines{{start + QPoint(0, hook), start},
+                                         {start, at(start, direction, half - 10)},
+                                         {at(end, -direction, half - 10), end},
+                                         {end, end + QPoint(0, hook)}}));
+        }
+    }
 }
 
 void VectorShapesTest::tie_data()
