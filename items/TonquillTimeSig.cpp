@@ -1,5 +1,6 @@
 #include "TonquillTimeSig.h"
 
+#include "Logging.h"
 #include "PaperPainting.h"
 #include "Records.h"
 
@@ -53,6 +54,7 @@ void TonquillTimeSig::paint(QPainter *painter, const QStyleOptionGraphicsItem *,
     QTextOption oneLineEach;
     oneLineEach.setWrapMode(QTextOption::NoWrap);
     painter->drawText(textRect, numerals, oneLineEach);
+    qCDebug(lcPaint) << "timesig " << numerals;
     if (!isSelected() || PaperPainting::isPrinter(*painter))
         return;
     painter->setPen(QPen(Qt::black, 0, Qt::DashLine));

@@ -7,6 +7,7 @@
 #include "TonquillTimeSig.h"
 
 #include <QGraphicsSceneMouseEvent>
+#include <QLoggingCategory>
 
 #include <limits>
 
@@ -36,6 +37,7 @@ private Q_SLOTS:
     void numbersAreStackedAndPadded_data();
     void numbersAreStackedAndPadded();
     void numbersAreBlackWhateverThePainterHad();
+    void paintingIsWrittenDownForThoseWhoAsk();
     void selectionIsDashedRoundTheNumbers();
     void selectionIsNotPrinted();
     void isPlacedByOneClick();
@@ -141,6 +143,30 @@ void TimeSigTest::numbersAreBlackWhateverThePainterHad()
     }
     for (const QPen &pen : device.recorder().pens)
         QCOMPARE(pen.color(), QColor(Qt::black));
+}
+
+/** A line at every painting would drown all others, so they are off unless asked for. */
+void TimeSigTest::paintingIsWrittenDownForThoseWhoAsk()
+{
+    static QStringList lines;
+    lines.clear();
+    const auto before = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &line) { lines.append(line); });
+    TonquillTimeSig item(3, 4, false);
+    RecordingScreen screen(100, 100, QImage::Format_RGB32);
+    RecordingPrinter paper(QPrinter::HighResolution);
+    paintOn(screen, item);
+    const QStringList unasked = std::exchange(lines, {});
+    QLoggingCategory::setFilterRules("tonquill.paint=true");
+    paintOn(screen, item);
+    paintOn(paper, item);
+    QLoggingCategory::setFilterRules(QString());
+    qInstallMessageHandler(before);
+
+    QCOMPARE(unasked, QStringList());
+    QCOMPARE(lines.size(), 2);
+    for (const QString &line : std::as_const(lines))
+        QVERIFY2(line.startsWith("timesig "), qPrintable(line));
 }
 
 void TimeSigTest::selectionIsDashedRoundTheNumbers()
