@@ -62,8 +62,8 @@ public:
     /** The printer of every print, preview and page setup while the program runs. */
     QPrinter &sharedPrinter() { return m_printer; }
 
-    /** Prints the pages, for those who want to know what became of it. */
-    const PagePrinter &pagePrinter() const { return *m_pagePrinter; }
+    /** Prints the pages, for those who want to know what became of it, and on what paper. */
+    PagePrinter &pagePrinter() const { return *m_pagePrinter; }
 
     /** Connects to the host, if one is listening; otherwise the editor runs alone. */
     void connectToHost();

@@ -48,6 +48,7 @@ bool DocumentSession::isModified() const
 void DocumentSession::begin(const DocumentSnapshot &document)
 {
     document.restore(m_window);
+    DocumentSnapshot::setPrinterPaper(m_window);
     m_window.view()->verticalScrollBar()->setValue(0);
     m_window.onViewScroll(m_window.view()->curScenePos());
     m_edits.reset();

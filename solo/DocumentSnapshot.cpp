@@ -2,44 +2,18 @@
 
 #include "ItemRecords.h"
 #include "PageGeometry.h"
+#include "PagePrinter.h"
 #include "SceneItems.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 #include "TonquillView.h"
 
-#include <QPageLayout>
 #include <QScrollBar>
 
 #include <algorithm>
-#include <cmath>
 
 namespace
 {
-/** Scene units are 1/88 inch across and 1/90 inch down. */
-QSizeF inInches(QSizeF units)
-{
-    const QRectF inch = PageGeometry::paperRect(QRectF(0, 0, 1, 1));
-    return QSizeF(units.width() / inch.width(), units.height() / inch.height());
-}
-
-/** Sets the shared printer to the document's paper, so that pages print as they are laid out. */
-void setPrinterPaper(QPrinter &printer, const Paper &paper)
-{
-    constexpr double tolerance = 0.02; // inch
-    const QSizeF size = inInches(paper.size);
-    const QSizeF present = printer.paperRect(QPrinter::Inch).size();
-    if (std::fabs(size.width() - present.width()) < tolerance &&
-        std::fabs(size.height() - present.height()) < tolerance)
-        return;
-    const QSizeF corner = inInches(QSizeF(paper.frame.left(), paper.frame.top()));
-    const QSizeF rest = inInches(QSizeF(paper.size.width() - paper.frame.right(),
-                                        paper.size.height() - paper.frame.bottom()));
-    printer.setPageLayout(
-        QPageLayout(QPageSize(size, QPageSize::Inch), QPageLayout::Portrait,
-                    QMarginsF(corner.width(), corner.height(), rest.width(), rest.height()),
-                    QPageLayout::Inch));
-}
-
 void setPaper(TonquillMainWin &window, const Paper &paper)
 {
     TonquillScene &scene = *window.scene;
@@ -48,7 +22,7 @@ void setPaper(TonquillMainWin &window, const Paper &paper)
     scene.paperRect.setSize(paper.size);
     scene.pageRect = paper.frame;
     scene.pageSpacing = PageGeometry::spacing(paper.size.height());
-    setPrinterPaper(window.sharedPrinter(), paper);
+    DocumentSnapshot::setPrinterPaper(window);
 }
 
 void buildItems(TonquillMainWin &window, const QList<QByteArray> &lines,
@@ -76,6 +50,24 @@ QList<QGraphicsItem *> DocumentSnapshot::itemsOf(const TonquillMainWin &window)
 Paper DocumentSnapshot::paperOf(const TonquillMainWin &window)
 {
     return Paper{window.scene->paperRect.size(), window.scene->pageRect};
+}
+
+/** Scene units are 1/88 inch across and 1/90 inch down. */
+Paper Paper::inInches() const
+{
+    const QRectF inch = PageGeometry::paperRect(QRectF(0, 0, 1, 1));
+    const auto scaled = [inch](double across, double down) {
+        return QPointF(across / inch.width(), down / inch.height());
+    };
+    const QPointF corner = scaled(size.width(), size.height());
+    return Paper{QSizeF(corner.x(), corner.y()),
+                 QRectF(scaled(frame.left(), frame.top()), scaled(frame.right(), frame.bottom()))};
+}
+
+void DocumentSnapshot::setPrinterPaper(TonquillMainWin &window)
+{
+    const Paper inches = paperOf(window).inInches();
+    window.pagePrinter().setOwnPaper(inches.size, inches.frame);
 }
 
 DocumentSnapshot DocumentSnapshot::capture(const TonquillMainWin &window,

@@ -15,6 +15,8 @@ struct Paper
 {
     QSizeF size;
     QRectF frame; ///< the printable area
+
+    Paper inInches() const;
     bool operator==(const Paper &) const = default;
 };
 
@@ -48,6 +50,12 @@ struct DocumentSnapshot
 
     /** The window's paper. */
     static Paper paperOf(const TonquillMainWin &window);
+
+    /**
+     * Sets the window's printer to the window's paper. A page setup that the user has chosen for
+     * the document before is given up.
+     */
+    static void setPrinterPaper(TonquillMainWin &window);
 
     /** True while the pointer moves or resizes an item of the window. */
     static bool isItemHeld(const TonquillMainWin &window);

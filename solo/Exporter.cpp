@@ -1,8 +1,10 @@
 #include "Exporter.h"
 
 #include "AtomicFile.h"
+#include "DocumentSnapshot.h"
 #include "PagePicture.h"
 #include "PagePrinter.h"
+#include "PrinterPaper.h"
 #include "TonquillMainWin.h"
 
 #include <QBuffer>
@@ -87,10 +89,11 @@ Exporter::Contents Exporter::pdf()
         return failed;
     const QString path = folder.filePath(QStringLiteral("export.pdf"));
     PagePrinter::Outcome outcome = PagePrinter::Outcome::NotStarted;
+    const Paper paper = DocumentSnapshot::paperOf(m_window).inInches();
     {
         QPrinter printer(QPrinter::HighResolution);
         printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setPageLayout(m_window.sharedPrinter().pageLayout());
+        printer.setPageLayout(PrinterPaper::layoutOf(paper.size, paper.frame));
         printer.setOutputFileName(path);
         outcome = m_window.pagePrinter().printUnreported(printer);
     }

@@ -139,6 +139,7 @@ int SoloApplication::exportFile(const SoloArguments &arguments)
         return fail(QStringLiteral("%1: %2").arg(arguments.file,
                                                  reading.problemText().section(u'\n', 0, 0)));
     reading.document.restore(window);
+    DocumentSnapshot::setPrinterPaper(window);
     const QString error = Exporter(window).write(
         arguments.exportTo, ExportOptions{arguments.page, arguments.dotsPerInch});
     return error.isEmpty() ? 0 : fail(error);

@@ -1,6 +1,7 @@
 #include "PagePrinter.h"
 
 #include "PrintProgress.h"
+#include "PrinterPaper.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 
@@ -50,6 +51,15 @@ PagePrinter::PagePrinter(TonquillMainWin &window, HostLink &hostLink)
     : m_window(window)
     , m_hostLink(hostLink)
 {}
+
+void PagePrinter::setOwnPaper(const QSizeF &sheet, const QRectF &frame)
+{
+    QPrinter &printer = m_window.sharedPrinter();
+    m_ownFrame = frame;
+    m_ownPaper = PrinterPaper::layoutOf(sheet, frame);
+    printer.setPageLayout(m_ownPaper);
+    m_setPaper = printer.pageLayout();
+}
 
 void PagePrinter::showPreview()
 {
@@ -108,13 +118,14 @@ PagePrinter::Outcome PagePrinter::printPages(QPrinter &printer) const
     if (!painter.begin(&printer))
         return Outcome::NotStarted;
     painter.setRenderHint(QPainter::LosslessImageRendering);
+    const QRectF target = targetOn(printer);
     const std::unique_ptr<PrintProgress> progress = progressOf(printer);
     for (int i = 0; i < m_window.pageCount; ++i) {
         if (progress && !progress->beginPage(i)) {
             printer.abort();
             return Outcome::Cancelled;
         }
-        m_window.scene->render(&painter, QRectF(), sourceOfPage(i), Qt::IgnoreAspectRatio);
+        m_window.scene->render(&painter, target, sourceOfPage(i), Qt::IgnoreAspectRatio);
         if (i < m_window.pageCount - 1 && !printer.newPage())
             return Outcome::BrokenOff;
     }
@@ -137,6 +148,15 @@ QRectF PagePrinter::sourceOfPage(int index) const
                   index * scene.pagePitch() + scene.pageRect.top() - aroundFrame,
                   scene.pageRect.width() + 2 * aroundFrame,
                   scene.pageRect.height() + 2 * aroundFrame);
+}
+
+/** Null, which stands for all of the printable area, but for the document's own paper. */
+QRectF PagePrinter::targetOn(const QPrinter &printer) const
+{
+    const QPageLayout layout = printer.pageLayout();
+    const bool isOwn = layout.isEquivalentTo(m_ownPaper) || layout.isEquivalentTo(m_setPaper);
+    return isOwn ? PrinterPaper::placeOf(m_ownFrame, m_ownPaper, layout, printer.resolution())
+                 : QRectF();
 }
 
 /** The box does not run a loop of its own: whoever prints can go on. */

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QPageLayout>
 #include <QRectF>
 
 #include <memory>
@@ -27,6 +28,13 @@ public:
     /** Both outlive the page printer; `hostLink` has to wait while a long print goes on. */
     PagePrinter(TonquillMainWin &window, HostLink &hostLink);
 
+    /**
+     * Sets the shared printer to the paper that the document is laid out on, in inches. As long as
+     * it stays at that, pages come out with their frame where it is on their own sheet; a page
+     * setup that is chosen later has them stretched as ever, until this is called again.
+     */
+    void setOwnPaper(const QSizeF &sheet, const QRectF &frame);
+
     void showPreview();
     void showPageSetup();
     void showPrintDialog();
@@ -35,8 +43,9 @@ public:
     void print(QPrinter &printer) const;
 
     /**
-     * Prints every page, stretched to the printer's printable area. The user can cancel a long
-     * print, which leaves no file behind. Whoever calls this tells the user of a failure.
+     * Prints every page, stretched to the printer's printable area, or as it is if the printer has
+     * the document's own paper. The user can cancel a long print, which leaves no file behind.
+     * Whoever calls this tells the user of a failure.
      */
     Outcome printUnreported(QPrinter &printer) const;
 
@@ -44,8 +53,12 @@ private:
     Outcome printPages(QPrinter &printer) const;
     std::unique_ptr<PrintProgress> progressOf(const QPrinter &printer) const;
     QRectF sourceOfPage(int index) const;
+    QRectF targetOn(const QPrinter &printer) const;
     void reportFailure() const;
 
     TonquillMainWin &m_window;
     HostLink &m_hostLink;
+    QRectF m_ownFrame;      ///< inches; null unless the document has paper of its own
+    QPageLayout m_ownPaper; ///< as the document has it
+    QPageLayout m_setPaper; ///< as the shared printer took it, perhaps with wider margins
 };

@@ -1,15 +1,14 @@
 #include "LetterDocument.h"
 #include "ModalAnswer.h"
+#include "PreviewPaper.h"
 #include "TestMain.h"
 
 #include <QAction>
-#include <QGraphicsView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
-#include <QPrintPreviewWidget>
 #include <QProgressDialog>
 #include <QRadioButton>
 
