@@ -1,9 +1,11 @@
 #include "PagePrinter.h"
 
+#include "PageRange.h"
 #include "PrintProgress.h"
 #include "PrinterPaper.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
+#include "TonquillView.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -67,6 +69,8 @@ void PagePrinter::showPreview()
     QObject::connect(&dialog, SIGNAL(paintRequested(QPrinter *)), &m_window,
                      SLOT(print(QPrinter *)));
     dialog.exec();
+    // Pages may have been chosen for a print from within the preview.
+    PageRange::chooseAll(m_window.sharedPrinter());
 }
 
 /**
@@ -88,12 +92,14 @@ void PagePrinter::showPageSetup()
 
 void PagePrinter::showPrintDialog()
 {
-    QPrintDialog dialog(&m_window.sharedPrinter(), &m_window);
-    // All pages are printed, so the dialog must not promise a part of them. Where a print server
-    // picks the pages itself it offers them nevertheless.
-    dialog.setOption(QPrintDialog::PrintPageRange, false);
+    QPrinter &printer = m_window.sharedPrinter();
+    QPrintDialog dialog(&printer, &m_window);
+    dialog.setMinMax(1, qMax(1, m_window.pageCount));
+    dialog.setOption(QPrintDialog::PrintPageRange);
+    dialog.setOption(QPrintDialog::PrintCurrentPage);
     if (dialog.exec() == QDialog::Accepted)
-        print(m_window.sharedPrinter());
+        print(printer);
+    PageRange::chooseAll(printer);
 }
 
 void PagePrinter::print(QPrinter &printer) const
@@ -114,31 +120,43 @@ PagePrinter::Outcome PagePrinter::printUnreported(QPrinter &printer) const
 
 PagePrinter::Outcome PagePrinter::printPages(QPrinter &printer) const
 {
+    const QList<int> pages = pagesFor(printer);
     QPainter painter;
-    if (!painter.begin(&printer))
+    // Were none of the chosen pages there, the printer would bring out an empty one.
+    if ((pages.isEmpty() && m_window.pageCount > 0) || !painter.begin(&printer))
         return Outcome::NotStarted;
     painter.setRenderHint(QPainter::LosslessImageRendering);
     const QRectF target = targetOn(printer);
-    const std::unique_ptr<PrintProgress> progress = progressOf(printer);
-    for (int i = 0; i < m_window.pageCount; ++i) {
+    const std::unique_ptr<PrintProgress> progress = progressOf(printer, int(pages.size()));
+    for (int i = 0; i < pages.size(); ++i) {
         if (progress && !progress->beginPage(i)) {
             printer.abort();
             return Outcome::Cancelled;
         }
-        m_window.scene->render(&painter, target, sourceOfPage(i), Qt::IgnoreAspectRatio);
-        if (i < m_window.pageCount - 1 && !printer.newPage())
+        m_window.scene->render(&painter, target, sourceOfPage(pages[i]), Qt::IgnoreAspectRatio);
+        if (i < pages.size() - 1 && !printer.newPage())
             return Outcome::BrokenOff;
     }
     painter.end();
     return !writesFile(printer) || isFileComplete(printer) ? Outcome::Printed : Outcome::BrokenOff;
 }
 
+/** The preview always shows all pages. */
+QList<int> PagePrinter::pagesFor(const QPrinter &printer) const
+{
+    const int count = m_window.pageCount;
+    if (isPreview(printer))
+        return PageRange::all(count);
+    return PageRange::chosenOn(printer, count,
+                               m_window.scene->getPageAt(m_window.view()->curScenePos()));
+}
+
 /** None for the preview, which is no print, nor while there is no window to watch it. */
-std::unique_ptr<PrintProgress> PagePrinter::progressOf(const QPrinter &printer) const
+std::unique_ptr<PrintProgress> PagePrinter::progressOf(const QPrinter &printer, int pages) const
 {
     if (isPreview(printer) || !m_window.isVisible())
         return nullptr;
-    return std::make_unique<PrintProgress>(m_window, m_hostLink, m_window.pageCount);
+    return std::make_unique<PrintProgress>(m_window, m_hostLink, pages);
 }
 
 QRectF PagePrinter::sourceOfPage(int index) const

@@ -11,7 +11,7 @@ class PrintProgress;
 class QPrinter;
 class TonquillMainWin;
 
-/** Prints the pages of the document, one printed page for each, and opens the print dialogs. */
+/** Prints pages of the document, one printed page for each, and opens the print dialogs. */
 class PagePrinter
 {
     Q_DECLARE_TR_FUNCTIONS(PagePrinter)
@@ -39,19 +39,20 @@ public:
     void showPageSetup();
     void showPrintDialog();
 
-    /** Prints every page, and tells the user of a print that fails. */
+    /** Prints the pages that are chosen on the printer, and tells the user if that fails. */
     void print(QPrinter &printer) const;
 
     /**
-     * Prints every page, stretched to the printer's printable area, or as it is if the printer has
-     * the document's own paper. The user can cancel a long print, which leaves no file behind.
-     * Whoever calls this tells the user of a failure.
+     * Prints the pages that are chosen on the printer, all if none are, stretched to the printer's
+     * printable area, or as it is if the printer has the document's own paper. The user can cancel
+     * a long print, which leaves no file behind. Whoever calls this tells the user of a failure.
      */
     Outcome printUnreported(QPrinter &printer) const;
 
 private:
     Outcome printPages(QPrinter &printer) const;
-    std::unique_ptr<PrintProgress> progressOf(const QPrinter &printer) const;
+    QList<int> pagesFor(const QPrinter &printer) const;
+    std::unique_ptr<PrintProgress> progressOf(const QPrinter &printer, int pages) const;
     QRectF sourceOfPage(int index) const;
     QRectF targetOn(const QPrinter &printer) const;
     void reportFailure() const;

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void deviceThatTakesNothing();
     void diskThatIsFull_data();
     void diskThatIsFull();
+    void pagesThatDoNotExist();
     void printThatSucceedsSaysNothing();
 
 private:
@@ -115,6 +116,19 @@ void FailedPrintsTest::diskThatIsFull()
     verifyToldOnce();
     QVERIFY(!QFileInfo::exists(m_document.pdfPath()));
     m_document.clear(3);
+}
+
+void FailedPrintsTest::pagesThatDoNotExist()
+{
+    QPrinter printer(QPrinter::ScreenResolution);
+    LetterDocument::makeLetter(printer);
+    printer.setOutputFileName(m_document.pdfPath());
+    printer.setPrintRange(QPrinter::PageRange);
+    printer.setFromTo(4, 9);
+    QFile::remove(m_document.pdfPath());
+    m_document.window.print(&printer);
+    verifyToldOnce();
+    QVERIFY(!QFileInfo::exists(m_document.pdfPath()));
 }
 
 void FailedPrintsTest::printThatSucceedsSaysNothing()

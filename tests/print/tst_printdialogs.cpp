@@ -11,6 +11,7 @@
 #include <QPrintPreviewDialog>
 #include <QProgressDialog>
 #include <QRadioButton>
+#include <QSpinBox>
 
 namespace
 {
@@ -64,7 +65,8 @@ private Q_SLOTS:
     void printDialogPrints_data();
     void printDialogPrints();
     void cancelledPrintDialogPrintsNothing();
-    void printDialogPromisesNoPartOfThePages();
+    void printDialogOffersPages();
+    void previewShowsAllPagesWhateverIsChosen();
     void uselessSlotDoesNothing();
 
 private:
@@ -255,15 +257,58 @@ void PrintDialogsTest::cancelledPrintDialogPrintsNothing()
     QVERIFY(!QFile::exists(m_document.pdfPath()));
 }
 
-/** All pages are printed, whatever range were given. */
-void PrintDialogsTest::printDialogPromisesNoPartOfThePages()
+/** The dialog is opened with all pages chosen, and what is chosen holds for one print. */
+void PrintDialogsTest::printDialogOffersPages()
 {
-    bool offersRange = true;
-    ModalAnswer::whenOpen<QPrintDialog>([&offersRange](QPrintDialog &dialog) {
-        offersRange = dialog.testOption(QPrintDialog::PrintPageRange);
-    });
+    m_document.clear(3);
+    const QString path = m_document.folder.filePath("second.pdf");
+    const auto choose = [path](const char *radio, int from, int to) {
+        ModalAnswer::whenOpen<QPrintDialog>([=](QPrintDialog &dialog) {
+            QVERIFY(dialog.findChild<QRadioButton *>("printAll")->isChecked());
+            QVERIFY(!dialog.findChild<QRadioButton *>("printCurrentPage")->isHidden());
+            auto *first = dialog.findChild<QSpinBox *>("from");
+            auto *last = dialog.findChild<QSpinBox *>("to");
+            QCOMPARE(first->minimum(), 1);
+            QCOMPARE(last->maximum(), 3);
+            dialog.findChild<QRadioButton *>(radio)->setChecked(true);
+            first->setValue(from);
+            last->setValue(to);
+            QFile::remove(path);
+            dialog.findChild<QLineEdit *>("filename")->setText(path);
+            dialog.accept();
+        });
+    };
+    choose("printRange", 2, 2);
     trigger(printButton);
-    QVERIFY(!offersRange);
+    QCOMPARE(PdfFile(path).pageCount(), 1);
+    choose("printAll", 2, 2);
+    trigger(printButton);
+    QCOMPARE(PdfFile(path).pageCount(), 3);
+    choose("printCurrentPage", 1, 1);
+    trigger(printButton);
+    QCOMPARE(PdfFile(path).pageCount(), 1);
+
+    QPrinter &printer = m_document.window.sharedPrinter();
+    QCOMPARE(printer.printRange(), QPrinter::AllPages);
+    QVERIFY(printer.pageRanges().isEmpty());
+    m_document.window.print(&printer);
+    QCOMPARE(PdfFile(path).pageCount(), 3);
+}
+
+/** Pages that an embedding program has chosen on the printer are for its print only. */
+void PrintDialogsTest::previewShowsAllPagesWhateverIsChosen()
+{
+    m_document.clear(3);
+    QPrinter &printer = m_document.window.sharedPrinter();
+    printer.setPrintRange(QPrinter::PageRange);
+    printer.setFromTo(2, 2);
+    int pages = 0;
+    ModalAnswer::whenOpen<QPrintPreviewDialog>([&pages](QPrintPreviewDialog &dialog) {
+        pages = dialog.findChild<QPrintPreviewWidget *>()->pageCount();
+    });
+    trigger(previewButton);
+    QCOMPARE(pages, 3);
+    QVERIFY(printer.pageRanges().isEmpty());
 }
 
 void PrintDialogsTest::uselessSlotDoesNothing()

@@ -7,6 +7,7 @@
 #include "TonquillTextBlock.h"
 #include "TonquillView.h"
 
+#include <QScrollBar>
 #include <QTextCursor>
 
 #include <cmath>
@@ -68,6 +69,9 @@ private Q_SLOTS:
     void init();
     void asManyPagesAsTheDocument_data();
     void asManyPagesAsTheDocument();
+    void chosenPagesArePrinted_data();
+    void chosenPagesArePrinted();
+    void currentPageIsPrinted();
     void everyPageShowsItsOwnItems();
     void itemsLieWhereTheyDoOnThePage_data();
     void itemsLieWhereTheyDoOnThePage();
@@ -121,6 +125,62 @@ void PrintedPagesTest::asManyPagesAsTheDocument()
     QCOMPARE(pdf.pageCount(), printed);
     // 8.5 and 11 inches of 72 points.
     QCOMPARE(pdf.pageSizes(), QList<QSizeF>(printed, QSizeF(612, 792)));
+}
+
+void PrintedPagesTest::chosenPagesArePrinted_data()
+{
+    QTest::addColumn<QString>("chosen");
+    QTest::addColumn<QList<int>>("printed");
+    QTest::newRow("none") << "" << QList<int>{1, 2, 3, 4};
+    QTest::newRow("the second") << "2" << QList<int>{2};
+    QTest::newRow("two to three") << "2-3" << QList<int>{2, 3};
+    QTest::newRow("a list") << "1,3-4" << QList<int>{1, 3, 4};
+    QTest::newRow("beyond the last") << "3-9" << QList<int>{3, 4};
+}
+
+void PrintedPagesTest::chosenPagesArePrinted()
+{
+    QFETCH(QString, chosen);
+    QFETCH(QList<int>, printed);
+    m_document.clear(4);
+    for (int page = 0; page < 4; ++page)
+        m_document.addBlack(QRectF(100 + 150 * page, LetterDocument::pitch * page + 200, 100, 100));
+    CountingPrinter printer;
+    LetterDocument::makeLetter(printer);
+    printer.setOutputFileName(m_document.pdfPath());
+    if (!chosen.isEmpty())
+        printer.setPrintRange(QPrinter::PageRange);
+    printer.setPageRanges(QPageRanges::fromString(chosen));
+    m_document.window.print(&printer);
+    QCOMPARE(printer.newPages, printed.size() - 1);
+    const PdfFile pdf(m_document.pdfPath());
+    QCOMPARE(pdf.pageCount(), printed.size());
+    for (int i = 0; i < printed.size(); ++i) {
+        const QRectF item(100 + 150 * (printed[i] - 1), 200, 100, 100);
+        const QRectF ink = pdf.ink(i + 1);
+        const QRectF expected = LetterDocument::onPaper(item);
+        QVERIFY2(areClose(ink, expected, measuredPixel), describe(ink, expected));
+    }
+}
+
+/** The page at the top of the view; its lowest quarter counts as the next one. */
+void PrintedPagesTest::currentPageIsPrinted()
+{
+    m_document.clear(3);
+    m_document.addBlack(QRectF(300, LetterDocument::pitch + 200, 100, 100));
+    m_document.window.show();
+    QScrollBar *down = m_document.window.view()->verticalScrollBar();
+    QTRY_VERIFY(down->maximum() > LetterDocument::pitch);
+    down->setValue(int(LetterDocument::pitch));
+    QPrinter printer;
+    LetterDocument::makeLetter(printer);
+    printer.setOutputFileName(m_document.pdfPath());
+    printer.setPrintRange(QPrinter::CurrentPage);
+    m_document.window.print(&printer);
+    const PdfFile pdf(m_document.pdfPath());
+    QCOMPARE(pdf.pageCount(), 1);
+    const QRectF expected = LetterDocument::onPaper(QRectF(300, 200, 100, 100));
+    QVERIFY2(areClose(pdf.ink(1), expected, measuredPixel), describe(pdf.ink(1), expected));
 }
 
 void PrintedPagesTest::everyPageShowsItsOwnItems()
