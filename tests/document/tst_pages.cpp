@@ -1,7 +1,9 @@
 #include "PaperDocument.h"
 #include "TestMain.h"
 
+#include <QGraphicsLineItem>
 #include <QGraphicsRectItem>
+#include <QPen>
 
 namespace
 {
@@ -57,6 +59,8 @@ private Q_SLOTS:
     void insertionMovesWhatLiesBelow();
     void insertionMovesWhatReachesIntoThePage_data();
     void insertionMovesWhatReachesIntoThePage();
+    void itemsCountByTheirShape_data();
+    void itemsCountByTheirShape();
     void childrenMoveWithTheirParentsOnly();
     void deletionTakesThePageWithItsItems_data();
     void deletionTakesThePageWithItsItems();
@@ -146,6 +150,37 @@ void PagesTest::insertionMovesWhatReachesIntoThePage()
     QCOMPARE(item->pos(), moves ? centre + QPointF(0, pitch) : centre);
 }
 
+void PagesTest::itemsCountByTheirShape_data()
+{
+    QTest::addColumn<QLineF>("line");
+    QTest::addColumn<bool>("isReached");
+    // The areas begin at (0, 1039). At x = 0 the first line is at 1100 - 60 x 100 / 80 = 1025, and
+    // left of the areas further down; the second is at 1100 - 60 x 100 / 120 = 1050.
+    QTest::newRow("only the bounds reach the page") << QLineF(-60, 1100, 20, 1000) << false;
+    QTest::newRow("the line reaches the page") << QLineF(-60, 1100, 60, 1000) << true;
+}
+
+void PagesTest::itemsCountByTheirShape()
+{
+    QFETCH(QLineF, line);
+    QFETCH(bool, isReached);
+    PaperDocument document(QPageSize::Letter, 2);
+    QVERIFY(QRectF(line.p1(), line.p2()).normalized().intersects(QRectF(0, 1039, 748, 990)));
+    const QGraphicsLineItem *item = document.scene->addLine(line, QPen(Qt::black, 0));
+    document.scene->addPageBeforeCurPage(2);
+    QCOMPARE(item->pos(), isReached ? QPointF(0, pitch) : QPointF(0, 0));
+
+    auto *other = document.scene->addLine(line, QPen(Qt::black, 0));
+    document.scene->deletePage(1);
+    QCOMPARE(other->pos(), isReached ? QPointF(0, -940.5) : QPointF(0, 0));
+
+    other->setPos(0, 0);
+    const qsizetype before = document.scene->items().size();
+    document.scene->deletePage(2);
+    // Both lie there, the first at most 1039.5 - 940.5 = 99 further down.
+    QCOMPARE(before - document.scene->items().size(), isReached ? 2 : 0);
+}
+
 void PagesTest::childrenMoveWithTheirParentsOnly()
 {
     PaperDocument document(QPageSize::Letter, 2);
@@ -176,6 +211,23 @@ void PagesTest::deletionTakesThePageWithItsItems_data()
     QTest::newRow("straddles the gap's top") << 1 << QPointF(300, 994) << gone;
     QTest::newRow("straddles page 2's top")
         << 1 << QPointF(300, 1037) << QPointF(300, 1037 - 940.5);
+    // The areas begin at whole units, at 1039 instead of 1039.5; a glyph reaches 5 up and down.
+    QTest::newRow("reaches into the cut fraction above the deleted page")
+        << 2 << QPointF(300, 1034.2) << gone;
+    QTest::newRow("ends above the cut fraction")
+        << 2 << QPointF(300, 1033.5) << QPointF(300, 1033.5);
+    // 1039 + 990 = 2029.
+    QTest::newRow("reaches the end of the deleted page") << 2 << QPointF(300, 2033.8) << gone;
+    QTest::newRow("begins in the fraction that is cut off the deleted page's end")
+        << 2 << QPointF(300, 2034.3) << QPointF(300, 2034.3);
+    QTest::newRow("reaches into the cut fraction above what moves")
+        << 1 << QPointF(300, 1034.2) << QPointF(300, 1034.2 - 940.5);
+    QTest::newRow("ends above the cut fraction of what moves")
+        << 1 << QPointF(300, 1033.5) << QPointF(300, 1033.5);
+    // What moves is as high as the three pages were: 1039 + 3 x 1039.5 = 4157.5.
+    QTest::newRow("reaches the end of what moves")
+        << 1 << QPointF(300, 4162) << QPointF(300, 4162 - 940.5);
+    QTest::newRow("just beyond what moves") << 1 << QPointF(300, 4163) << QPointF(300, 4163);
     QTest::newRow("left of the page") << 1 << QPointF(-6, 100) << QPointF(-6, 100);
     QTest::newRow("right of the next page") << 1 << QPointF(754, 1500) << QPointF(754, 1500);
     QTest::newRow("on page 1 of a deleted page 2") << 2 << QPointF(300, 100) << QPointF(300, 100);

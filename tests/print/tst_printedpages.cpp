@@ -84,6 +84,8 @@ private Q_SLOTS:
     void selectionIsNotPrinted();
     void rubberBandIsNotPrinted();
     void editedTextIsPrintedWithoutItsCursor();
+    void linesAreAsWideAsAScreensPixel_data();
+    void linesAreAsWideAsAScreensPixel();
     void blocksWithCrossedCornersArePrinted_data();
     void blocksWithCrossedCornersArePrinted();
     void everyItemIsPaintedOnce();
@@ -342,6 +344,43 @@ void PrintedPagesTest::editedTextIsPrintedWithoutItsCursor()
     block->setTextCursor(cursor);
     QVERIFY(m_document.print().undatedBytes() == unedited);
     QVERIFY(block->textCursor().hasSelection());
+}
+
+void PrintedPagesTest::linesAreAsWideAsAScreensPixel_data()
+{
+    QTest::addColumn<int>("dpi");
+    for (const int dpi : {96, 300, 600, 1200})
+        QTest::addRow("%d dots to the inch", dpi) << dpi;
+}
+
+/** 1/96 inch at every resolution, be the line black and level or upright, or a page's outline. */
+void PrintedPagesTest::linesAreAsWideAsAScreensPixel()
+{
+    QFETCH(int, dpi);
+    constexpr int dotsPerInch = 576;
+    for (const char *record : {"tonquill_interactiveline 200 300 0 0 200 0",
+                               "tonquill_interactiveline 300 400 0 0 0 200"})
+        m_document.window.scene->constructItem(record, false, 0);
+    const QImage paper = m_document.print(dpi).picture(1, dotsPerInch);
+    // How wide the ink of this much darkness is from one point of the page to another.
+    const auto inkBetween = [&paper](QPointF from, QPointF to, int darkness) {
+        const QRectF area = LetterDocument::onPaper(QRectF(from, to));
+        const QPoint begin = (area.topLeft() * dotsPerInch).toPoint();
+        const QPoint way = (area.bottomRight() * dotsPerInch).toPoint() - begin;
+        const int steps = qMax(way.x(), way.y());
+        double sum = 0;
+        for (int i = 0; i < steps; ++i)
+            sum += 255 - qGray(paper.pixel(begin + way * i / steps));
+        return sum / darkness;
+    };
+    constexpr double wanted = dotsPerInch / 96.0;
+    const double level = inkBetween(QPointF(250, 290), QPointF(250, 310), 255);
+    QVERIFY2(std::abs(level - wanted) < 1, qPrintable(QString::number(level)));
+    const double upright = inkBetween(QPointF(290, 500), QPointF(310, 500), 255);
+    QVERIFY2(std::abs(upright - wanted) < 1, qPrintable(QString::number(upright)));
+    // The frame's left edge at x = 44, in a grey of 192.
+    const double outline = inkBetween(QPointF(43, 500), QPointF(54, 500), 255 - 192);
+    QVERIFY2(std::abs(outline - wanted) < 1, qPrintable(QString::number(outline)));
 }
 
 void PrintedPagesTest::blocksWithCrossedCornersArePrinted_data()
