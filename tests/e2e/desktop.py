@@ -113,6 +113,11 @@ class Window:
         values = _shell_values(desktop.xdotool("getwindowgeometry", "--shell", identifier))
         self.size = values["WIDTH"], values["HEIGHT"]
 
+    def activate(self):
+        """Brings the window to the front and waits until it has the keyboard."""
+        self.desktop.xdotool("windowactivate", self.id)
+        wait_until(lambda: self.desktop.active_window() == self.id, "the window has the keyboard")
+
     def move(self, point):
         """Puts the pointer on this point of the window."""
         self.desktop.move(self.origin[0] + point[0], self.origin[1] + point[1])

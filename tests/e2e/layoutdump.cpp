@@ -1,3 +1,4 @@
+#include "SoloWindow.h"
 #include "TonquillMainWin.h"
 #include "TonquillView.h"
 
@@ -6,6 +7,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
 #include <QToolBar>
@@ -73,19 +75,9 @@ QJsonObject layout(const TonquillMainWin &window)
             {QStringLiteral("controls"), pageControls(window)}};
 }
 
-} // namespace
-
-/**
- * Shows the main window as the program does, prints its layout as JSON and ends: so
- * a test knows where to click, and the program needs no way to be asked.
- */
-int main(int argc, char *argv[])
+/** Prints the layout of the window, which is shown, once it has come to rest. */
+void printLayout(const TonquillMainWin &window)
 {
-    QApplication application(argc, argv);
-    TonquillMainWin window;
-    window.showNormal();
-    window.raise();
-
     QTimer timer;
     QJsonObject last;
     QObject::connect(&timer, &QTimer::timeout, &window, [&] {
@@ -99,5 +91,27 @@ int main(int argc, char *argv[])
     timer.start(50);
     QApplication::exec();
     QTextStream(stdout) << QJsonDocument(last).toJson();
+}
+
+} // namespace
+
+/**
+ * Shows the main window as tonquill does, or with --solo as tonquill-solo does, prints its layout
+ * as JSON and ends: so a test knows where to click, and the programs need no way to be asked.
+ */
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    if (QCoreApplication::arguments().contains(QStringLiteral("--solo"))) {
+        const QTemporaryDir journal;
+        SoloWindow solo(journal.path());
+        solo.show();
+        printLayout(solo.window());
+    } else {
+        TonquillMainWin window;
+        window.showNormal();
+        window.raise();
+        printLayout(window);
+    }
     return 0;
 }
