@@ -12,7 +12,9 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFontDatabase>
+#include <QLineEdit>
 #include <QPointer>
+#include <QShortcut>
 
 TonquillMainWin *g_pMainWin = nullptr;
 QString g_csINIPath;
@@ -91,6 +93,7 @@ TonquillMainWin::TonquillMainWin(HostConnection connection, QWidget *parent)
         connectToHost();
     setWindowFlags(windowFlags() & ~(Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint));
     setFocusPolicy(Qt::ClickFocus);
+    giveKeyboardToPage();
 }
 
 TonquillMainWin::~TonquillMainWin()
@@ -122,6 +125,28 @@ void TonquillMainWin::keyReleaseEvent(QKeyEvent *event)
 bool TonquillMainWin::event(QEvent *event)
 {
     return QMainWindow::event(event);
+}
+
+/** The page has the keyboard from the start, and again when the typing of a page's number ends. */
+void TonquillMainWin::giveKeyboardToPage()
+{
+    ui->graphicsView->setFocus();
+    // Return still goes to the page of this number first, also when it is the same as before.
+    const auto *number = ui->sb_page->findChild<QLineEdit *>();
+    connect(number, SIGNAL(returnPressed()), ui->graphicsView, SLOT(setFocus()));
+    auto *escape = new QShortcut(Qt::Key_Escape, ui->sb_page);
+    escape->setContext(Qt::WidgetShortcut);
+    connect(escape, SIGNAL(activated()), ui->graphicsView, SLOT(setFocus()));
+}
+
+/**
+ * A press on a toolbar or between the controls takes the keyboard to the window, which ends the
+ * editing of a text. The window has no use for keys, so they go on to the page.
+ */
+void TonquillMainWin::focusInEvent(QFocusEvent *event)
+{
+    QMainWindow::focusInEvent(event);
+    ui->graphicsView->setFocus(event->reason());
 }
 
 void TonquillMainWin::changeEvent(QEvent *event)

@@ -115,6 +115,7 @@ protected:
     void mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
@@ -149,6 +150,7 @@ private:
 
     // Keyboard
     void setRestMode(bool on);
+    void adjustRestMode(bool isCtrlHeld);
     void startQuickTextBlock();
     bool isAnyItemEdited() const;
     bool isSelectedItemEdited() const;

@@ -4,6 +4,7 @@
 #include "TonquillTextBlock.h"
 
 #include <QGraphicsTextItem>
+#include <QGuiApplication>
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -33,6 +34,19 @@ QPointF nudgeBy(int key)
     default:
         return QPointF();
     }
+}
+
+/**
+ * Whether Ctrl is held when the focus comes for this reason. Inside the window the event that
+ * moves the focus tells; who comes from a menu or another window has to look at the keyboard.
+ */
+bool isCtrlHeld(Qt::FocusReason reason)
+{
+    const bool cameFromOutside =
+        reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;
+    const Qt::KeyboardModifiers held = cameFromOutside ? QGuiApplication::queryKeyboardModifiers()
+                                                       : QGuiApplication::keyboardModifiers();
+    return held.testFlag(Qt::ControlModifier);
 }
 
 bool isTextBeingEdited(const QGraphicsItem *item)
@@ -82,6 +96,13 @@ void TonquillScene::setRestMode(bool on)
     g_pMainWin->swapTb2();
 }
 
+/** For changes of Ctrl that no key event told. The view's last focus events find no window. */
+void TonquillScene::adjustRestMode(bool isCtrlHeld)
+{
+    if (g_pMainWin && g_pMainWin->restMode != isCtrlHeld)
+        setRestMode(isCtrlHeld);
+}
+
 /** Lays the block that takes what is typed, at the pointer. It begins with one blank. */
 void TonquillScene::startQuickTextBlock()
 {
@@ -122,11 +143,18 @@ void TonquillScene::keyReleaseEvent(QKeyEvent *event)
     }
 }
 
-/** The keyboard goes elsewhere, and with it the news that Ctrl was let go. */
+/** The keyboard comes back. Ctrl may have been pressed or let go meanwhile, unknown to the page. */
+void TonquillScene::focusInEvent(QFocusEvent *event)
+{
+    adjustRestMode(isCtrlHeld(event->reason()));
+    QGraphicsScene::focusInEvent(event);
+}
+
+/** The keyboard goes elsewhere, and with it the news that Ctrl was let go. A menu returns it. */
 void TonquillScene::focusOutEvent(QFocusEvent *event)
 {
-    if (g_pMainWin && g_pMainWin->restMode)
-        setRestMode(false);
+    if (event->reason() != Qt::PopupFocusReason)
+        adjustRestMode(false);
     QGraphicsScene::focusOutEvent(event);
 }
 

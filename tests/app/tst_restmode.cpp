@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QDialog>
+#include <QSpinBox>
 
 namespace
 {
@@ -41,6 +42,10 @@ private Q_SLOTS:
     void losingTheFocusEndsIt_data();
     void losingTheFocusEndsIt();
     void dialogEndsIt();
+    void menuDoesNotEndIt();
+    void pressInTheWindowKeepsTheKeyboardOnThePage();
+    void pageFieldGivesTheKeyboardBack_data();
+    void pageFieldGivesTheKeyboardBack();
     void losingTheFocusWithoutCtrlChangesNothing();
 
 private:
@@ -124,6 +129,57 @@ void RestModeTest::dialogEndsIt()
     dialog.close();
     QVERIFY(!m_window->restMode);
     QCOMPARE(quarterIcon(*m_window), m_noteIcon);
+}
+
+void RestModeTest::menuDoesNotEndIt()
+{
+    sendToView(QEvent::KeyPress, Qt::Key_Control, Qt::ControlModifier);
+    QFocusEvent toMenu(QEvent::FocusOut, Qt::PopupFocusReason);
+    QCoreApplication::sendEvent(m_window->view(), &toMenu);
+    QVERIFY(m_window->restMode);
+    // Nobody holds Ctrl when the menu is closed.
+    QFocusEvent back(QEvent::FocusIn, Qt::PopupFocusReason);
+    QCoreApplication::sendEvent(m_window->view(), &back);
+    QVERIFY(!m_window->restMode);
+    QCOMPARE(quarterIcon(*m_window), m_noteIcon);
+}
+
+void RestModeTest::pressInTheWindowKeepsTheKeyboardOnThePage()
+{
+    for (QWidget *pressed : {static_cast<QWidget *>(m_window->ui->toolBar2),
+                             static_cast<QWidget *>(m_window->ui->groupBox),
+                             static_cast<QWidget *>(m_window->ui->pb_insertPage)}) {
+        m_window->ui->sb_page->setFocus();
+        QVERIFY(!m_window->view()->hasFocus());
+        QTest::mousePress(pressed, Qt::LeftButton, {}, QPoint(3, 3));
+        QVERIFY(m_window->view()->hasFocus());
+    }
+}
+
+void RestModeTest::pageFieldGivesTheKeyboardBack_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Return") << Qt::Key_Return;
+    QTest::newRow("Enter") << Qt::Key_Enter;
+    QTest::newRow("Escape") << Qt::Key_Escape;
+}
+
+void RestModeTest::pageFieldGivesTheKeyboardBack()
+{
+    QFETCH(Qt::Key, key);
+    QSpinBox *field = m_window->ui->sb_page;
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_Up);
+    QTest::keyClick(field, Qt::Key_5);
+    QVERIFY(field->hasFocus());
+    const int typed = field->value();
+    QVERIFY(typed != 0);
+    QSignalSpy told(field, &QSpinBox::valueChanged);
+    QTest::keyClick(field, key);
+    QVERIFY(m_window->view()->hasFocus());
+    QCOMPARE(field->value(), typed);
+    // Return goes to the page once more, Escape leaves it at that.
+    QCOMPARE(told.size(), key == Qt::Key_Escape ? 0 : 1);
 }
 
 void RestModeTest::losingTheFocusWithoutCtrlChangesNothing()
