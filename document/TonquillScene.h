@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ClipboardKeys.h"
 #include "ItemModel.h"
 #include "ItemReference.h"
 #include "Records.h"
@@ -168,6 +169,7 @@ private:
     QPointer<TonquillText> m_contextText; ///< whose context menu is open, or was
     QPointer<TonquillTextBlock> m_quickTextBlock;
     QStringList m_copyBuffer;
+    ClipboardKeys m_clipboardKeys;
     bool m_rubberBandVisible = false;
     QRectF m_rubberBand; ///< scene coordinates; its size may be negative
 };

@@ -61,6 +61,7 @@ bool isTextBeingEdited(const QGraphicsItem *item)
 void TonquillScene::keyPressEvent(QKeyEvent *event)
 {
     qCDebug(lcPointer) << "key press" << event->key() << event->isAutoRepeat();
+    m_clipboardKeys.press(*event);
     if (event->key() == Qt::Key_Control) {
         setRestMode(true);
         return;
@@ -121,16 +122,20 @@ void TonquillScene::keyReleaseEvent(QKeyEvent *event)
 {
     qCDebug(lcPointer) << "key release" << event->key() << event->isAutoRepeat();
     const int key = event->key();
+    const QKeySequence::StandardKey clipboardCommand = m_clipboardKeys.release(*event);
     if (key == Qt::Key_Delete || key == Qt::Key_Backspace) {
         if (isSelectedItemEdited())
             QGraphicsScene::keyReleaseEvent(event);
         else
             deleteSelection();
-    } else if (event->matches(QKeySequence::Copy)) {
-        copySelection();
-    } else if (event->matches(QKeySequence::Paste)) {
-        qCDebug(lcTonquill) << "paste items";
-        onPaste();
+    } else if (clipboardCommand != QKeySequence::UnknownKey) {
+        // An edited text has copied or pasted a part of itself when the key was pressed.
+        if (isAnyItemEdited())
+            QGraphicsScene::keyReleaseEvent(event);
+        else if (clipboardCommand == QKeySequence::Copy)
+            copySelection();
+        else
+            onPaste();
     } else if (key == Qt::Key_Control) {
         setRestMode(false);
     } else if (key == Qt::Key_Space) {
@@ -153,6 +158,7 @@ void TonquillScene::focusInEvent(QFocusEvent *event)
 /** The keyboard goes elsewhere, and with it the news that Ctrl was let go. A menu returns it. */
 void TonquillScene::focusOutEvent(QFocusEvent *event)
 {
+    m_clipboardKeys.forgetPresses();
     if (event->reason() != Qt::PopupFocusReason)
         adjustRestMode(false);
     QGraphicsScene::focusOutEvent(event);
@@ -194,6 +200,7 @@ void TonquillScene::copySelection()
 
 void TonquillScene::onPaste()
 {
+    qCDebug(lcTonquill) << "paste items";
     const QStringList records = m_copyBuffer;
     for (const QString &record : records)
         constructItem(record, false, pasteOffset);

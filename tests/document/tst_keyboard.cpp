@@ -51,6 +51,11 @@ private Q_SLOTS:
     void pasteStandsBesideTheRecordedPlace_data();
     void pasteStandsBesideTheRecordedPlace();
     void copyAndPasteActOnRelease();
+    void copyAndPasteWhenCtrlGoesFirst();
+    void letterAloneDoesNotPaste_data();
+    void letterAloneDoesNotPaste();
+    void heldPasteEndsWithCtrl();
+    void copyAndPasteInABlockActOnItsText();
     void copyLeavesOutItemsWithoutARecord();
     void pastingNothingDoesNothing();
     void spaceWithoutALastItemDoesNothing();
@@ -345,6 +350,99 @@ void KeyboardTest::copyAndPasteActOnRelease()
     QCOMPARE(items().size(), 1);
     keyRelease(Qt::Key_V, Qt::ControlModifier);
     QCOMPARE(items().size(), 2);
+}
+
+void KeyboardTest::copyAndPasteWhenCtrlGoesFirst()
+{
+    selectedGlyph();
+    keyPress(Qt::Key_C, Qt::ControlModifier);
+    keyRelease(Qt::Key_C);
+    for (int pasted = 1; pasted <= 3; ++pasted) {
+        keyPress(Qt::Key_V, Qt::ControlModifier);
+        keyRelease(Qt::Key_V);
+        QCOMPARE(items().size(), 1 + pasted);
+    }
+    // Both held at once, each acts for itself, and with Ctrl still held not twice.
+    keyPress(Qt::Key_C, Qt::ControlModifier);
+    keyPress(Qt::Key_V, Qt::ControlModifier);
+    keyRelease(Qt::Key_C, Qt::ControlModifier);
+    keyRelease(Qt::Key_V);
+    QCOMPARE(items().size(), 4 + 2);
+}
+
+void KeyboardTest::letterAloneDoesNotPaste_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::newRow("nothing") << "";
+    QTest::newRow("a whole paste") << "paste";
+    QTest::newRow("a paste whose release was lost") << "press";
+    QTest::newRow("a paste that lost the keyboard") << "focus";
+}
+
+void KeyboardTest::letterAloneDoesNotPaste()
+{
+    QFETCH(const QString, before);
+    selectedGlyph();
+    keyClick(Qt::Key_C, Qt::ControlModifier);
+    if (!before.isEmpty())
+        keyPress(Qt::Key_V, Qt::ControlModifier);
+    if (before == "paste")
+        keyRelease(Qt::Key_V);
+    const qsizetype count = items().size();
+    if (before == "focus") {
+        QFocusEvent focusOut(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+        QCoreApplication::sendEvent(&m_editor->scene(), &focusOut);
+    } else {
+        keyPress(Qt::Key_V);
+    }
+    keyRelease(Qt::Key_V);
+    QCOMPARE(items().size(), count);
+}
+
+/** Each repeat with Ctrl pastes; of those without, only the one that Ctrl began. */
+void KeyboardTest::heldPasteEndsWithCtrl()
+{
+    selectedGlyph();
+    keyClick(Qt::Key_C, Qt::ControlModifier);
+    const auto send = [this](QEvent::Type type, Qt::KeyboardModifiers modifiers, bool repeat) {
+        sendKey(m_editor->view(), type, Qt::Key_V, modifiers, {}, repeat);
+    };
+    send(QEvent::KeyPress, Qt::ControlModifier, false);
+    for (int i = 0; i < 2; ++i) {
+        send(QEvent::KeyRelease, Qt::ControlModifier, true);
+        send(QEvent::KeyPress, Qt::ControlModifier, true);
+    }
+    QCOMPARE(items().size(), 1 + 2);
+    for (int i = 0; i < 5; ++i) {
+        send(QEvent::KeyRelease, Qt::NoModifier, true);
+        send(QEvent::KeyPress, Qt::NoModifier, true);
+    }
+    send(QEvent::KeyRelease, Qt::NoModifier, false);
+    QCOMPARE(items().size(), 1 + 3);
+}
+
+void KeyboardTest::copyAndPasteInABlockActOnItsText()
+{
+    selectedGlyph();
+    keyClick(Qt::Key_C, Qt::ControlModifier);
+    m_editor->scene().clearSelection();
+    TonquillTextBlock *item = editedBlock();
+    QTextCursor cursor = item->textCursor();
+    cursor.setPosition(0);
+    cursor.setPosition(3, QTextCursor::KeepAnchor);
+    item->setTextCursor(cursor);
+    keyClick(Qt::Key_C, Qt::ControlModifier);
+    cursor.setPosition(0);
+    item->setTextCursor(cursor);
+    keyClick(Qt::Key_V, Qt::ControlModifier);
+    keyPress(Qt::Key_V, Qt::ControlModifier);
+    keyRelease(Qt::Key_V);
+    QCOMPARE(item->toPlainText().trimmed(), QString("abcabcabc"));
+    QCOMPARE(items().size(), 2);
+    // The block itself was not copied either.
+    m_editor->pointer.click(QPointF(600, 600));
+    keyClick(Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(items().size(), 2 + 1);
 }
 
 void KeyboardTest::copyLeavesOutItemsWithoutARecord()
