@@ -146,7 +146,8 @@ private:
     void releaseLeft(QGraphicsSceneMouseEvent *event, QGraphicsItem *served);
     void startRubberBand(QPointF scenePos);
     void selectByRubberBand();
-    void forwardToSelection(QEvent *event, QGraphicsItem *except = nullptr);
+    void forward(QGraphicsItem *item, QGraphicsSceneMouseEvent *event);
+    void forwardToSelection(QGraphicsSceneMouseEvent *event, QGraphicsItem *except = nullptr);
     void moveQuickTextBlock(QPointF scenePos);
 
     // Keyboard

@@ -60,7 +60,7 @@ void TonquillScene::mousePressEvent(QGraphicsSceneMouseEvent *event)
         pressLeft(event);
     } else if (event->button() == Qt::RightButton) {
         if (SelectionFrame *frame = asFrame(itemUnder(event->scenePos())))
-            sendEvent(frame->parentItem(), event);
+            forward(frame->parentItem(), event);
     }
 }
 
@@ -93,7 +93,7 @@ void TonquillScene::pressLeft(QGraphicsSceneMouseEvent *event)
         owner->setSelected(true);
         setFocusItem(owner, Qt::OtherFocusReason);
         if (isOnAnchor(*frame, event->scenePos())) {
-            sendEvent(owner, event);
+            forward(owner, event);
             return;
         }
     }
@@ -123,7 +123,7 @@ void TonquillScene::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
     }
     SelectionFrame *frame = asFrame(itemUnder(event->scenePos()));
     if (frame && isOnAnchor(*frame, event->scenePos()))
-        sendEvent(frame->parentItem(), event);
+        forward(frame->parentItem(), event);
     else
         forwardToSelection(event);
 }
@@ -153,7 +153,7 @@ void TonquillScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
     } else if (event->button() == Qt::RightButton) {
         SelectionFrame *frame = asFrame(itemUnder(event->scenePos()));
         if (frame && frame->parentItem() != served.get(this))
-            sendEvent(frame->parentItem(), event);
+            forward(frame->parentItem(), event);
     }
 }
 
@@ -179,7 +179,7 @@ void TonquillScene::releaseLeft(QGraphicsSceneMouseEvent *event, QGraphicsItem *
     }
     const ItemReference owner(frame->parentItem());
     if (frame->parentItem() != served)
-        sendEvent(frame->parentItem(), event);
+        forward(frame->parentItem(), event);
     if (owner.object() && owner.object()->property("itemStatus").toInt() == 0)
         g_pMainWin->notifyTW();
 }
@@ -193,16 +193,29 @@ void TonquillScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
         startRubberBand(event->scenePos());
     } else if (SelectionFrame *frame = asFrame(under)) {
         QGraphicsItem *owner = frame->parentItem();
-        sendEvent(owner, event);
+        forward(owner, event);
         setFocusItem(owner, Qt::OtherFocusReason);
     }
+}
+
+/** Sends the item an event that says where on this item it is; it is the same otherwise. */
+void TonquillScene::forward(QGraphicsItem *item, QGraphicsSceneMouseEvent *event)
+{
+    event->setPos(item->mapFromScene(event->scenePos()));
+    event->setLastPos(item->mapFromScene(event->lastScenePos()));
+    const Qt::MouseButtons concerned = event->buttons() | event->button();
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+        if (concerned.testFlag(button))
+            event->setButtonDownPos(button, item->mapFromScene(event->buttonDownScenePos(button)));
+    }
+    sendEvent(item, event);
 }
 
 /**
  * Forwards an event to each selected item. Handling it may run an event loop in which a document
  * arrives, so the items are watched while the list is walked.
  */
-void TonquillScene::forwardToSelection(QEvent *event, QGraphicsItem *except)
+void TonquillScene::forwardToSelection(QGraphicsSceneMouseEvent *event, QGraphicsItem *except)
 {
     QList<ItemReference> targets;
     for (QGraphicsItem *item : selectedItems())
@@ -210,7 +223,7 @@ void TonquillScene::forwardToSelection(QEvent *event, QGraphicsItem *except)
     for (const ItemReference &target : std::as_const(targets)) {
         QGraphicsItem *item = target.get(this);
         if (item && item != except)
-            sendEvent(item, event);
+            forward(item, event);
     }
 }
 

@@ -252,8 +252,6 @@ void TonquillTextBlock::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
 {
     if (textInteractionFlags() == Qt::NoTextInteraction)
         setTextInteractionFlags(Qt::TextEditorInteraction);
-    // The scene forwards the click without saying where it is on this item.
-    event->setPos(mapFromScene(event->scenePos()));
     QGraphicsTextItem::mouseDoubleClickEvent(event);
 }
 

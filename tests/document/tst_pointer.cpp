@@ -5,6 +5,7 @@
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 
+#include <QGraphicsSceneMouseEvent>
 #include <QGraphicsView>
 #include <QPointer>
 
@@ -17,6 +18,25 @@ constexpr QPointF placeOfPlain(500, 100);
 constexpr QPointF onAnchor(-20, -20);
 constexpr QPointF inMargin(23, 0);
 constexpr QPointF emptySpace(300, 600);
+
+/** Keeps where the last move was on this item, and where the button had been pressed. */
+class PlaceProbe : public QGraphicsRectItem
+{
+public:
+    PlaceProbe() { setFlag(ItemIsSelectable); }
+
+    QPointF point;
+    QPointF lastPos;
+    QPointF pressed;
+
+protected:
+    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override
+    {
+        point = event->pos();
+        lastPos = event->lastPos();
+        pressed = event->buttonDownPos(Qt::LeftButton);
+    }
+};
 } // namespace
 
 /** What the scene forwards to which item. */
@@ -40,6 +60,7 @@ private Q_SLOTS:
     void releaseGoesToAllSelected_data();
     void releaseGoesToAllSelected();
     void releaseOnAnAnchorGoesToItsItemOnly();
+    void eventSaysWhereItIsOnEachItem();
     void rightButtonGoesToTheItemUnderItOnly();
     void rightButtonElsewhereDoesNothing();
     void middleButtonDoesNothing_data();
@@ -212,6 +233,35 @@ void PointerTest::releaseOnAnAnchorGoesToItsItemOnly()
     m_b->setSelected(true);
     m_pointer->release(placeOfA + onAnchor);
     QCOMPARE(m_log.takeAll(), QStringList{"a release"});
+}
+
+void PointerTest::eventSaysWhereItIsOnEachItem()
+{
+    PlaceProbe here;
+    PlaceProbe there;
+    here.setPos(100, 700);
+    there.setPos(300, 710);
+    there.setRotation(90);
+    for (PlaceProbe *probe : {&here, &there}) {
+        m_scene->addItem(probe);
+        probe->setSelected(true);
+    }
+    QGraphicsSceneMouseEvent move(QEvent::GraphicsSceneMouseMove);
+    move.setScenePos(QPointF(310, 730));
+    move.setLastScenePos(QPointF(305, 725));
+    move.setButtons(Qt::LeftButton);
+    move.setButtonDownScenePos(Qt::LeftButton, QPointF(290, 720));
+    QCoreApplication::sendEvent(m_scene, &move);
+    QCOMPARE(here.point, QPointF(310 - 100, 730 - 700));
+    QCOMPARE(here.lastPos, QPointF(305 - 100, 725 - 700));
+    QCOMPARE(here.pressed, QPointF(290 - 100, 720 - 700));
+    // Turned by a quarter, what is below is to the right and what is to the left is below.
+    QCOMPARE(there.point, QPointF(730 - 710, 300 - 310));
+    QCOMPARE(there.lastPos, QPointF(725 - 710, 300 - 305));
+    QCOMPARE(there.pressed, QPointF(720 - 710, 300 - 290));
+    // The rest is as it was.
+    QCOMPARE(move.scenePos(), QPointF(310, 730));
+    QCOMPARE(move.buttons(), Qt::LeftButton);
 }
 
 void PointerTest::rightButtonGoesToTheItemUnderItOnly()
