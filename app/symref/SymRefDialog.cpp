@@ -6,17 +6,28 @@
 #include <QDir>
 #include <QFile>
 #include <QMessageBox>
+#include <QShortcut>
 
 SymRefDialog::SymRefDialog(QWidget *parent)
     : QDialog(parent)
     , ui(new Ui_SymRefDialog)
 {
     ui->setupUi(this);
+    // In the key text Tab is typed like any letter; with Ctrl it leads on, as it does elsewhere.
+    moveFocusBy(Qt::CTRL | Qt::Key_Tab, true);
+    moveFocusBy(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, false);
 }
 
 SymRefDialog::~SymRefDialog()
 {
     delete ui;
+}
+
+void SymRefDialog::moveFocusBy(const QKeySequence &keys, bool forwards)
+{
+    auto *shortcut = new QShortcut(keys, this);
+    connect(shortcut, &QShortcut::activated, this,
+            [this, forwards] { focusNextPrevChild(forwards); });
 }
 
 void SymRefDialog::on_pb_ok_clicked()

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 
+class QKeySequence;
 class Ui_SymRefDialog;
 
 /** Asks for an instrument's name and the key to its tablature symbols, and writes them to a file.
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void on_pb_cancel_clicked();
 
 private:
+    void moveFocusBy(const QKeySequence &keys, bool forwards);
     bool checkInput();
     void warn(const QString &text);
 
