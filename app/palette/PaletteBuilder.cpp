@@ -4,11 +4,29 @@
 #include "ToolBarStrip.h"
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QCursor>
+#include <QEvent>
 #include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
 
 #include <algorithm>
+
+namespace
+{
+/**
+ * A pointer that leaves the button by way of its menu is never seen to leave: Qt tells the button
+ * nothing while the menu is open, and with the menu gone the pointer is elsewhere already.
+ */
+void tellIfPointerLeft(QToolButton &button)
+{
+    if (button.rect().contains(button.mapFromGlobal(QCursor::pos())))
+        return;
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&button, &leave);
+}
+} // namespace
 
 PaletteBuilder::PaletteBuilder(TonquillMainWin &window)
     : m_window(window)
@@ -61,8 +79,11 @@ QToolButton *PaletteBuilder::constructToolButton(const QIcon &icon, QMenu *menu)
     auto *button = new QToolButton;
     button->setIcon(icon);
     button->setPopupMode(QToolButton::InstantPopup);
-    if (menu)
+    if (menu) {
         button->setMenu(menu);
+        QObject::connect(menu, &QMenu::aboutToHide, button,
+                         [button] { tellIfPointerLeft(*button); });
+    }
     return button;
 }
 
