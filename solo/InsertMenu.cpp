@@ -17,6 +17,9 @@ bool inserts(const PaletteToolBar &toolBar)
     return qstrcmp(toolBar.objectName, "toolBar1") != 0;
 }
 
+constexpr int noteValues = 8;
+constexpr int firstNoteButton = PaletteTable::toolBar2FirstId + 9;
+
 /** A name without the hint on what Ctrl does, which does not hold for a menu. */
 QString plainName(const PaletteEntry &entry)
 {
@@ -54,7 +57,15 @@ void InsertMenu::addEntry(QMenu &menu, const PaletteEntry &entry)
     QAction *command = m_window.actions.value(entry.id);
     QAction *action =
         menu.addAction(command->icon(), plainName(entry).replace(u'&', QStringLiteral("&&")));
-    QObject::connect(action, &QAction::triggered, command, &QAction::trigger);
+    const int value = entry.id - firstNoteButton;
+    if (value < 0 || value >= noteValues) {
+        QObject::connect(action, &QAction::triggered, command, &QAction::trigger);
+        return;
+    }
+    // What is called a note is one with Ctrl held, too: the rests have a menu of their own.
+    QObject::connect(action, &QAction::triggered, &m_window, [window = &m_window, value] {
+        window->InsertNoteRest(SymbolTable::note(value));
+    });
 }
 
 void InsertMenu::addButtonMenu(const PaletteEntry &entry)

@@ -10,7 +10,8 @@ struct PaletteToolBar;
 
 /**
  * The palette as a menu, so that every command can be reached with the keyboard and by its name.
- * It is made from the palette's own table; an entry triggers the palette's action.
+ * It is made from the palette's own table; an entry triggers the palette's action,
+ * but notes and rests have entries of their own, whether Ctrl is held or not.
  */
 class InsertMenu
 {

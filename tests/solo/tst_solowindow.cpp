@@ -33,6 +33,7 @@ private Q_SLOTS:
     void noTwoEntriesShareAShortcut();
     void ctrlIsNotHeldAfterAShortcut();
     void everyPaletteCommandIsInTheInsertMenu();
+    void ctrlMakesNoRestOfANoteInTheInsertMenu();
     void copyAndPasteFromTheMenuActOnce();
     void aTextLeftForTheMenuIsNotDeleted();
     void theTitleTellsNameAndChange();
@@ -186,6 +187,18 @@ void SoloWindowTest::everyPaletteCommandIsInTheInsertMenu()
             QVERIFY2(row.isSeparator() || names.contains(row.translatedName()), row.name);
     }
     QVERIFY(names.contains("Eighth rest"));
+}
+
+void SoloWindowTest::ctrlMakesNoRestOfANoteInTheInsertMenu()
+{
+    const QStringList names{"Whole note", "Half note", "Quarter note", "Eighth note",
+                            "16th note",  "32nd note", "64th note",    "128th note"};
+    TonquillMainWin &window = m_solo->window();
+    window.restMode = true;
+    for (int value = 0; value < 8; ++value) {
+        entry(names[value])->trigger();
+        QCOMPARE(window.scene->selectedItems().constFirst()->data(256).toInt(), 13 + 3 * value);
+    }
 }
 
 void SoloWindowTest::copyAndPasteFromTheMenuActOnce()
