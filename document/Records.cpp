@@ -250,17 +250,16 @@ QString Records::pageCountLine(int pageCount)
     return (RecordLine(QStringLiteral("tonquill_pagecount")) << pageCount).ended();
 }
 
-QString Records::format(const Bitmap &record)
+QString Records::format(const Bitmap &record, const QString &keyword)
 {
-    return (RecordLine(bitmapKeyword())
-            << record.symbolId << record.x << record.y << (record.inverted ? 1 : 0))
+    return (RecordLine(keyword) << record.symbolId << record.x << record.y
+                                << (record.inverted ? 1 : 0))
         .ended();
 }
 
-QString Records::format(const TimeSig &record)
+QString Records::format(const TimeSig &record, const QString &keyword)
 {
-    return (RecordLine(timesigKeyword())
-            << record.x << record.y << record.numerator << record.denominator)
+    return (RecordLine(keyword) << record.x << record.y << record.numerator << record.denominator)
         .ended();
 }
 
@@ -271,20 +270,19 @@ QString Records::format(const Vector &record)
         .ended();
 }
 
-QString Records::format(const Text &record)
+QString Records::format(const Text &record, const QString &keyword)
 {
-    return (RecordLine(textKeyword())
-            << record.x << record.y << record.width << record.height << record.text << record.family
-            << record.pointSize << QString::number(record.color, 16)
-            << QString::number(record.rotation))
+    return (RecordLine(keyword) << record.x << record.y << record.width << record.height
+                                << record.text << record.family << record.pointSize
+                                << QString::number(record.color, 16)
+                                << QString::number(record.rotation))
         .ended();
 }
 
-QString Records::format(const TextBlock &record)
+QString Records::format(const TextBlock &record, const QString &keyword)
 {
     QString result =
-        (RecordLine(textblockKeyword()) << record.x << record.y << record.width << record.height)
-            .ended();
+        (RecordLine(keyword) << record.x << record.y << record.width << record.height).ended();
     result += record.text;
     result += u'\n';
     result += textblockEnd;

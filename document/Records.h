@@ -100,9 +100,11 @@ QStringView takeFirst(QStringView &records);
 /** The line with which a document begins. */
 QString pageCountLine(int pageCount);
 
-QString format(const Bitmap &record);
-QString format(const TimeSig &record);
+// Writes a record. Its keyword is that of its kind, unless the item has been given another.
+
+QString format(const Bitmap &record, const QString &keyword = bitmapKeyword());
+QString format(const TimeSig &record, const QString &keyword = timesigKeyword());
 QString format(const Vector &record);
-QString format(const Text &record);
-QString format(const TextBlock &record);
+QString format(const Text &record, const QString &keyword = textKeyword());
+QString format(const TextBlock &record, const QString &keyword = textblockKeyword());
 } // namespace Records

@@ -29,6 +29,11 @@ void ItemModel::dragBy(QGraphicsItem *item, const QGraphicsSceneMouseEvent &even
     lastPointer = event.scenePos();
 }
 
+QString ItemModel::keywordOf(const QGraphicsItem &item)
+{
+    return item.data(ItemData::keyword).toString();
+}
+
 QFont ItemModel::largeBoldFont()
 {
     static const QFont font = [] {

@@ -57,6 +57,9 @@ bool onlyRightButtonHeld(const QGraphicsSceneMouseEvent &event);
 /** Moves `item` by the way from `lastPointer` to the event (scene units) and stores the event's. */
 void dragBy(QGraphicsItem *item, const QGraphicsSceneMouseEvent &event, QPointF &lastPointer);
 
+/** The keyword with which the item's record begins, as it stands in the item's data. */
+QString keywordOf(const QGraphicsItem &item);
+
 /** Bold, 23 points: the font that figures and time signatures carry. Shared by all of them. */
 QFont largeBoldFont();
 

@@ -39,7 +39,8 @@ void TonquillBitmap::setInverted(bool inverted)
 QString TonquillBitmap::getParamStr()
 {
     return Records::format(Records::Bitmap{data(ItemData::symbolId).toInt(), truncatedToInt(x()),
-                                           truncatedToInt(y()), m_inverted});
+                                           truncatedToInt(y()), m_inverted},
+                           ItemModel::keywordOf(*this));
 }
 
 void TonquillBitmap::paint(QPainter *painter, const QStyleOptionGraphicsItem *option,

@@ -35,7 +35,8 @@ QString TonquillText::getParamStr()
     return Records::format(
         Records::Text{truncatedToInt(x()), truncatedToInt(y()), truncatedToInt(bounds.width()),
                       truncatedToInt(bounds.height()), toPlainText(), font().family(),
-                      font().pointSize(), defaultTextColor().rgb(), rotation()});
+                      font().pointSize(), defaultTextColor().rgb(), rotation()},
+        ItemModel::keywordOf(*this));
 }
 
 void TonquillText::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget)

@@ -137,7 +137,8 @@ QString TonquillTextBlock::getParamStr()
     const QRectF bounds = boundingRect();
     return Records::format(Records::TextBlock{truncatedToInt(x()), truncatedToInt(y()),
                                               truncatedToInt(bounds.width()),
-                                              truncatedToInt(bounds.height()), toPlainText()});
+                                              truncatedToInt(bounds.height()), toPlainText()},
+                           ItemModel::keywordOf(*this));
 }
 
 void TonquillTextBlock::onFontSizeChange()

@@ -42,7 +42,8 @@ QRectF TonquillTimeSig::boundingRect() const
 QString TonquillTimeSig::getParamStr()
 {
     return Records::format(
-        Records::TimeSig{truncatedToInt(x()), truncatedToInt(y()), m_numerator, m_denominator});
+        Records::TimeSig{truncatedToInt(x()), truncatedToInt(y()), m_numerator, m_denominator},
+        ItemModel::keywordOf(*this));
 }
 
 void TonquillTimeSig::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)

@@ -37,9 +37,10 @@ QRectF TonquillVectorItem::spannedRect() const
 
 QString TonquillVectorItem::getParamStr()
 {
-    return Records::format(Records::Vector{m_kind.keyword, truncatedToInt(x()), truncatedToInt(y()),
-                                           truncatedToInt(m_start.x()), truncatedToInt(m_start.y()),
-                                           truncatedToInt(m_end.x()), truncatedToInt(m_end.y())});
+    return Records::format(Records::Vector{ItemModel::keywordOf(*this), truncatedToInt(x()),
+                                           truncatedToInt(y()), truncatedToInt(m_start.x()),
+                                           truncatedToInt(m_start.y()), truncatedToInt(m_end.x()),
+                                           truncatedToInt(m_end.y())});
 }
 
 void TonquillVectorItem::mousePressEvent(QGraphicsSceneMouseEvent *event)

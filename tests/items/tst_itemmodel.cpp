@@ -1,3 +1,4 @@
+#include "ItemProbe.h"
 #include "ScenePointer.h"
 #include "SelectionFrame.h"
 #include "TestMain.h"
@@ -126,6 +127,9 @@ private Q_SLOTS:
     void selectionAtConstruction();
     void recordIsAskedForByName_data() { addItemRows(); }
     void recordIsAskedForByName();
+    void recordBeginsWithTheKeywordOfTheItem_data() { addItemRows(); }
+    void recordBeginsWithTheKeywordOfTheItem();
+    void recordOfAGlyphHasTheSymbolOfTheItem();
     void frameIsNoObjectAndHasNoKeyword_data() { addItemRows(); }
     void frameIsNoObjectAndHasNoKeyword();
     void waitingItemFollowsAndIgnoresThePress_data() { addItemRows(); }
@@ -225,6 +229,25 @@ void ItemModelTest::recordIsAskedForByName()
     // A glyph's first field is its symbol, 2 here.
     const QString first = keyword == "tonquill_bitmap" ? " 2 120 0 " : " 120 0 ";
     QVERIFY2(record.startsWith(keyword + first), qPrintable(record));
+}
+
+/** The keyword is read from the item's data, where an embedding program may have put another. */
+void ItemModelTest::recordBeginsWithTheKeywordOfTheItem()
+{
+    QFETCH(QString, keyword);
+    const std::unique_ptr<QGraphicsItem> item(makeFromRow(false));
+    const QString before = ItemProbe::recordOf(item.get());
+    QVERIFY(before.startsWith(keyword + ' '));
+    item->setData(257, QString("other_keyword"));
+    QCOMPARE(ItemProbe::recordOf(item.get()), "other_keyword" + before.mid(keyword.size()));
+}
+
+void ItemModelTest::recordOfAGlyphHasTheSymbolOfTheItem()
+{
+    const std::unique_ptr<QGraphicsItem> item(makeBitmap(false));
+    QCOMPARE(item->data(256), QVariant(2));
+    item->setData(256, 13);
+    QCOMPARE(ItemProbe::recordOf(item.get()), QString("tonquill_bitmap 13 0 0 0\n"));
 }
 
 void ItemModelTest::frameIsNoObjectAndHasNoKeyword()
