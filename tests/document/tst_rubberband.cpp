@@ -1,3 +1,4 @@
+#include "PaintRecorder.h"
 #include "PaperDocument.h"
 #include "ScenePointer.h"
 #include "TestMain.h"
@@ -50,6 +51,9 @@ private Q_SLOTS:
     void clickOnEmptySpaceSelectsNothing();
     void bandIsDashedWhileItIsDragged_data();
     void bandIsDashedWhileItIsDragged();
+    void bandKeepsItsNegativeSize_data();
+    void bandKeepsItsNegativeSize();
+    void pageIsPaintedAnewWithIt();
     void nothingIsForwardedMeanwhile();
     void onlyTheLeftReleaseEndsIt();
     void releaseTakesTheFocus();
@@ -157,6 +161,57 @@ void RubberBandTest::bandIsDashedWhileItIsDragged()
     QVERIFY(whiteOnTheTopEdge > 20);
     pointer.release(to);
     QCOMPARE(foreground(*document.scene), nothing());
+}
+
+void RubberBandTest::bandKeepsItsNegativeSize_data()
+{
+    QTest::addColumn<QPointF>("from");
+    QTest::addColumn<QPointF>("to");
+    QTest::addColumn<QRectF>("band");
+    QTest::newRow("down right") << QPointF(100, 150) << QPointF(300, 250)
+                                << QRectF(100, 150, 200, 100);
+    QTest::newRow("up left") << QPointF(300, 250) << QPointF(100, 150)
+                             << QRectF(300, 250, -200, -100);
+    QTest::newRow("up right") << QPointF(100, 250) << QPointF(300, 150)
+                              << QRectF(100, 250, 200, -100);
+    QTest::newRow("down left") << QPointF(300, 150) << QPointF(100, 250)
+                               << QRectF(300, 150, -200, 100);
+}
+
+/** It is drawn from where it was begun to where the pointer is. */
+void RubberBandTest::bandKeepsItsNegativeSize()
+{
+    QFETCH(QPointF, from);
+    QFETCH(QPointF, to);
+    QFETCH(QRectF, band);
+    PaperDocument document;
+    ScenePointer pointer(*document.scene);
+    pointer.press(from);
+    pointer.moveTo(QPointF(550, 550));
+    pointer.moveTo(to);
+    RecordingScreen screen(600, 600, QImage::Format_RGB32);
+    QPainter painter(&screen);
+    document.scene->drawForeground(&painter, QRectF());
+    QCOMPARE(screen.recorder().rects, QList<QRectF>{band});
+    QCOMPARE(screen.recorder().pens.constFirst().color(), QColor(Qt::black));
+    QCOMPARE(screen.recorder().pens.constFirst().style(), Qt::DashLine);
+}
+
+/** Each move shows the band at its new size, and its end takes it away. */
+void RubberBandTest::pageIsPaintedAnewWithIt()
+{
+    PaperDocument document;
+    ScenePointer pointer(*document.scene);
+    QSignalSpy painted(document.scene.get(), &QGraphicsScene::changed);
+    pointer.press(QPointF(100, 100));
+    QCoreApplication::processEvents();
+    painted.clear();
+    pointer.moveTo(QPointF(200, 200));
+    QTRY_VERIFY(!painted.isEmpty());
+    QCoreApplication::processEvents();
+    painted.clear();
+    pointer.release(QPointF(200, 200));
+    QTRY_VERIFY(!painted.isEmpty());
 }
 
 void RubberBandTest::nothingIsForwardedMeanwhile()

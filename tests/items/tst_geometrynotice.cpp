@@ -15,6 +15,7 @@ class GeometryNoticeTest : public QObject
 private Q_SLOTS:
     void resizedItemIsFoundInItsNewBounds_data();
     void resizedItemIsFoundInItsNewBounds();
+    void resizedBlockIsFoundInItsNewBounds();
 };
 
 void GeometryNoticeTest::resizedItemIsFoundInItsNewBounds_data()
@@ -41,6 +42,28 @@ void GeometryNoticeTest::resizedItemIsFoundInItsNewBounds()
     pointer.drag(QPointF(160, 150), QPointF(700, 900));
     QCOMPARE(window.scene->items(QPointF(500, 600)), found);
     const QList<QGraphicsItem *> inMargin = window.scene->items(QPointF(704, 904));
+    QCOMPARE(inMargin.size(), 1);
+    QCOMPARE(inMargin.constFirst()->type(), int(SelectionFrame::Type));
+}
+
+/** A block is taken by its text alone, so here its bounds are asked for. */
+void GeometryNoticeTest::resizedBlockIsFoundInItsNewBounds()
+{
+    TonquillMainWin window;
+    ScenePointer pointer(*window.scene);
+    const auto itemsAt = [&window](QPointF point) {
+        return window.scene->items(point, Qt::IntersectsItemBoundingRect);
+    };
+    // One unit wider than recorded: (100, 100) to (160, 150).
+    window.scene->constructItem(
+        "tonquill_textblock_begin 100 100 59 50\nla\ntonquill_textblock_end\n", false, 0);
+    const QList<QGraphicsItem *> found = itemsAt(QPointF(130, 125));
+    QCOMPARE(found.size(), 2);
+    QVERIFY(itemsAt(QPointF(500, 600)).isEmpty());
+    QCoreApplication::processEvents();
+    pointer.drag(QPointF(160, 150), QPointF(700, 900));
+    QCOMPARE(itemsAt(QPointF(500, 600)), found);
+    const QList<QGraphicsItem *> inMargin = itemsAt(QPointF(704, 904));
     QCOMPARE(inMargin.size(), 1);
     QCOMPARE(inMargin.constFirst()->type(), int(SelectionFrame::Type));
 }

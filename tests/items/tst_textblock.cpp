@@ -9,6 +9,7 @@
 #include <QBuffer>
 #include <QGraphicsSceneContextMenuEvent>
 #include <QKeyEvent>
+#include <QTextCursor>
 #include <QTextDocument>
 
 using namespace ModalAnswer;
@@ -58,9 +59,17 @@ private Q_SLOTS:
     void resizingWrapsTheText();
     void keepsItsGrabAfterADragAndOthersTakeIt();
     void doubleClickEditsUntilFocusIsLost();
+    void doubleClickPutsTheTextCursor();
+    void doubleClickLeavesAnyPartOfEditing_data();
+    void doubleClickLeavesAnyPartOfEditing();
     void frameFollowsTyping();
+    void keysAreIgnoredAtRest_data();
     void keysAreIgnoredAtRest();
+    void keysFitTheBlockWithAnyPartOfEditing_data();
+    void keysFitTheBlockWithAnyPartOfEditing();
     void pressWhileEditedMovesNothing();
+    void dragWhileEditedSelectsText();
+    void newBlockThatIsEditedDoesNotFollow();
     void sizeMenuEntries();
     void sizeMenuSetsThePointSize_data();
     void sizeMenuSetsThePointSize();
@@ -244,6 +253,33 @@ void TextBlockTest::doubleClickEditsUntilFocusIsLost()
     QCOMPARE(block->itemStatus(), 0);
 }
 
+/** On the second of two lines; as everywhere, a double click selects the word. */
+void TextBlockTest::doubleClickPutsTheTextCursor()
+{
+    TonquillTextBlock *block = place("one\ntwo");
+    const qreal margin = block->document()->documentMargin();
+    const qreal lineHeight = (block->document()->size().height() - 2 * margin) / 2;
+    ScenePointer(*m_window.scene).doubleClick(QPointF(100 + 10, 200 + margin + 1.5 * lineHeight));
+    QCOMPARE(block->textCursor().selectedText(), QString("two"));
+}
+
+void TextBlockTest::doubleClickLeavesAnyPartOfEditing_data()
+{
+    QTest::addColumn<int>("flags");
+    for (const int flags : {int(Qt::TextSelectableByMouse), int(Qt::TextSelectableByKeyboard),
+                            int(Qt::TextEditable), int(Qt::TextBrowserInteraction)})
+        QTest::addRow("%d", flags) << flags;
+}
+
+void TextBlockTest::doubleClickLeavesAnyPartOfEditing()
+{
+    QFETCH(int, flags);
+    TonquillTextBlock *block = place();
+    block->setTextInteractionFlags(Qt::TextInteractionFlags(flags));
+    ScenePointer(*m_window.scene).pressTwice(QPointF(130, 210));
+    QCOMPARE(int(block->textInteractionFlags()), flags);
+}
+
 void TextBlockTest::frameFollowsTyping()
 {
     TonquillTextBlock *block = place();
@@ -265,24 +301,99 @@ void TextBlockTest::frameFollowsTyping()
     QVERIFY(block->boundingRect().height() > widened.height());
 }
 
+void TextBlockTest::keysAreIgnoredAtRest_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::newRow("press") << int(QEvent::KeyPress);
+    QTest::newRow("release") << int(QEvent::KeyRelease);
+}
+
 void TextBlockTest::keysAreIgnoredAtRest()
 {
+    QFETCH(int, type);
     TonquillTextBlock *block = place();
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_W, Qt::NoModifier, "w");
-    m_window.scene->sendEvent(block, &press);
-    QVERIFY(!press.isAccepted());
+    QKeyEvent event(static_cast<QEvent::Type>(type), Qt::Key_W, Qt::NoModifier, "w");
+    m_window.scene->sendEvent(block, &event);
+    QVERIFY(!event.isAccepted());
     QCOMPARE(block->toPlainText(), QString("verse"));
     QCOMPARE(block->boundingRect(), QRectF(0, 0, 121, 80));
+}
+
+void TextBlockTest::keysFitTheBlockWithAnyPartOfEditing_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("flags");
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        for (const int flags : {int(Qt::TextSelectableByMouse), int(Qt::TextSelectableByKeyboard),
+                                int(Qt::TextEditable), int(Qt::TextEditorInteraction)})
+            QTest::addRow("event %d, flags %d", int(type), flags) << int(type) << flags;
+    }
+}
+
+/** Its size is then that of the text, which is as wide as Qt likes it, and so are its anchors. */
+void TextBlockTest::keysFitTheBlockWithAnyPartOfEditing()
+{
+    QFETCH(int, type);
+    QFETCH(int, flags);
+    TonquillTextBlock *block = place();
+    block->setTextInteractionFlags(Qt::TextInteractionFlags(flags));
+    QKeyEvent event(static_cast<QEvent::Type>(type), Qt::Key_Shift, Qt::ShiftModifier);
+    m_window.scene->sendEvent(block, &event);
+    QGraphicsTextItem text("verse");
+    text.setFont(block->font());
+    text.adjustSize();
+    QCOMPARE(block->boundingRect(), text.boundingRect());
+    QPointF anchor;
+    QCOMPARE(ItemProbe::frameOf(*block)->getAnchor(text.boundingRect().bottomRight(), anchor), 1);
+    QCOMPARE(anchor, text.boundingRect().bottomRight());
 }
 
 void TextBlockTest::pressWhileEditedMovesNothing()
 {
     TonquillTextBlock *block = place();
     edit(block);
-    ScenePointer(*m_window.scene).drag(QPointF(130, 210), QPointF(170, 230));
+    block->setTextCursor(QTextCursor(block->document()));
+    ScenePointer pointer(*m_window.scene);
+    pointer.press(QPointF(130, 210));
+    QCOMPARE(block->itemStatus(), 0);
+    pointer.moveTo(QPointF(170, 230));
+    QCOMPARE(block->itemStatus(), 0);
+    pointer.moveTo(QPointF(500, 600));
+    QCOMPARE(block->itemStatus(), 0);
+    pointer.release(QPointF(500, 600));
     QCOMPARE(block->pos(), QPointF(100, 200));
+    QCOMPARE(block->boundingRect(), QRectF(0, 0, 121, 80));
     QCOMPARE(block->itemStatus(), 0);
     QCOMPARE(block->textInteractionFlags(), Qt::TextEditorInteraction);
+}
+
+/** Left of the text to right of it, all inside the block. */
+void TextBlockTest::dragWhileEditedSelectsText()
+{
+    TonquillTextBlock *block = place();
+    edit(block);
+    block->setTextCursor(QTextCursor(block->document())); // nothing is selected by the double click
+    ScenePointer(*m_window.scene).drag(QPointF(104.2, 210), QPointF(200, 210));
+    QCOMPARE(block->textCursor().selectedText(), QString("verse"));
+    QCOMPARE(block->pos(), QPointF(100, 200));
+}
+
+/** A new block that a double click opens stays where it is, and the release places it. */
+void TextBlockTest::newBlockThatIsEditedDoesNotFollow()
+{
+    auto *block = new TonquillTextBlock(true, "verse", QRectF(0, 0, 120, 80));
+    m_window.scene->addNewItem(block);
+    ScenePointer pointer(*m_window.scene);
+    pointer.moveTo(QPointF(100, 200));
+    pointer.pressTwice(QPointF(130, 210));
+    QCOMPARE(block->textInteractionFlags(), Qt::TextEditorInteraction);
+    for (const QPointF point : {QPointF(150, 220), QPointF(500, 600)}) {
+        pointer.moveTo(point);
+        QCOMPARE(block->pos(), QPointF(100, 200));
+        QCOMPARE(block->itemStatus(), 1);
+    }
+    pointer.release(QPointF(150, 220));
+    QCOMPARE(block->itemStatus(), 0);
 }
 
 void TextBlockTest::sizeMenuEntries()
