@@ -60,6 +60,7 @@ private Q_SLOTS:
     void pastingNothingDoesNothing();
     void spaceWithoutALastItemDoesNothing();
     void spaceRepeatsTheLastItem();
+    void spaceRepeatsTheLastItemOfADocument();
     void spaceNeverRepeatsADeletedItem_data();
     void spaceNeverRepeatsADeletedItem();
     void spaceTypesIntoAnEditedBlock();
@@ -485,6 +486,17 @@ void KeyboardTest::spaceRepeatsTheLastItem()
     m_editor->pointer.click(QPointF(410, 210));
     QCOMPARE(ItemProbe::statusOf(copy), 0);
     QCOMPARE(ItemProbe::recordOf(copy), QString("tonquill_bitmap 13 410 210 1\n"));
+}
+
+void KeyboardTest::spaceRepeatsTheLastItemOfADocument()
+{
+    selectedGlyph();
+    m_editor->window.twMsg("tonquill_bitmap 13 120 300 1\n|tonquill_timesig 200 300 3 4\n|");
+    QCOMPARE(items().size(), 2);
+    keyClick(Qt::Key_Space);
+    QCOMPARE(items().size(), 3);
+    m_editor->pointer.click(QPointF(410, 210));
+    QVERIFY(m_editor->records().contains("tonquill_timesig 410 210 3 4\n"));
 }
 
 void KeyboardTest::spaceNeverRepeatsADeletedItem_data()

@@ -59,6 +59,7 @@ private Q_SLOTS:
     void rotation_data();
     void rotation();
     void laterWordsShiftTheFieldsOfAText();
+    void anyNumberButZeroInverts();
     void twoBlanksHaveAnEmptyFieldBetweenThem();
     void hostileNumbersReadAsZero_data();
     void hostileNumbersReadAsZero();
@@ -176,6 +177,15 @@ void RecordsTest::laterWordsShiftTheFieldsOfAText()
     QCOMPARE(text->pointSize, 0);
     QCOMPARE(text->color, 0x12U);
     QCOMPARE(text->rotation, 0.0);
+}
+
+void RecordsTest::anyNumberButZeroInverts()
+{
+    for (const auto *record : {u"tonquill_bitmap 17 1 2 1\n", u"tonquill_bitmap 17 1 2 2\n",
+                               u"tonquill_bitmap 17 1 2 -1\n"})
+        QCOMPARE(as<Bitmap>(parse(record))->inverted, true);
+    for (const auto *record : {u"tonquill_bitmap 17 1 2 0\n", u"tonquill_bitmap 17 1 2 x\n"})
+        QCOMPARE(as<Bitmap>(parse(record))->inverted, false);
 }
 
 void RecordsTest::twoBlanksHaveAnEmptyFieldBetweenThem()

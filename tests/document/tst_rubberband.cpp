@@ -4,6 +4,7 @@
 #include "TestMain.h"
 
 #include <QPainter>
+#include <QPainterPath>
 
 namespace
 {
@@ -178,7 +179,7 @@ void RubberBandTest::bandKeepsItsNegativeSize_data()
                                << QRectF(300, 150, -200, 100);
 }
 
-/** It is drawn from where it was begun to where the pointer is. */
+/** It is drawn, and selects, from where it was begun to where the pointer is. */
 void RubberBandTest::bandKeepsItsNegativeSize()
 {
     QFETCH(QPointF, from);
@@ -195,6 +196,10 @@ void RubberBandTest::bandKeepsItsNegativeSize()
     QCOMPARE(screen.recorder().rects, QList<QRectF>{band});
     QCOMPARE(screen.recorder().pens.constFirst().color(), QColor(Qt::black));
     QCOMPARE(screen.recorder().pens.constFirst().style(), Qt::DashLine);
+    pointer.release(to);
+    QPainterPath selecting;
+    selecting.addRect(band);
+    QCOMPARE(document.scene->selectionArea(), selecting);
 }
 
 /** Each move shows the band at its new size, and its end takes it away. */

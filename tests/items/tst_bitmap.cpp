@@ -157,6 +157,8 @@ void BitmapTest::setInvertedShowsTheOtherPixmap()
     item.setInverted(true);
     QCOMPARE(item.pixmap().cacheKey(), inverted.cacheKey());
     QVERIFY(isInverted(item));
+    item.setInverted(true); // which it is
+    QCOMPARE(item.pixmap().cacheKey(), inverted.cacheKey());
     item.setInverted(false);
     QCOMPARE(item.pixmap().cacheKey(), normal.cacheKey());
     QVERIFY(!isInverted(item));

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void startsSelectedEitherWay_data();
     void startsSelectedEitherWay();
     void frameHasOneAnchorAtTheBottomLeft();
+    void frameGetsOneMoreAnchorEachTime();
     void rightPressAsksForTheMenu_data();
     void rightPressAsksForTheMenu();
     void grabsTheMouseWhileItIsMoved();
@@ -73,6 +74,19 @@ void TextTest::frameHasOneAnchorAtTheBottomLeft()
     QCOMPARE(ItemProbe::frameOf(*text)->getAnchor(QPointF(0, bounds.height()), anchor), 0);
     QCOMPARE(anchor, QPointF(bounds.x(), bounds.y() + bounds.height()));
     QVERIFY(!ItemProbe::frameOf(*text)->isAnchor(bounds.topRight()));
+}
+
+void TextTest::frameGetsOneMoreAnchorEachTime()
+{
+    TonquillText *text = place("Allegro");
+    const QPointF first = text->boundingRect().bottomLeft();
+    text->setFont(QFont("Arial", 40));
+    const QPointF second = text->boundingRect().bottomLeft();
+    QVERIFY(second.y() > first.y() + 10); // further than an anchor reaches
+    text->updateFrame();
+    QPointF anchor;
+    QCOMPARE(ItemProbe::frameOf(*text)->getAnchor(first, anchor), 0);
+    QCOMPARE(ItemProbe::frameOf(*text)->getAnchor(second, anchor), 1);
 }
 
 void TextTest::rightPressAsksForTheMenu_data()

@@ -9,6 +9,7 @@
 #include <QBuffer>
 #include <QGraphicsSceneContextMenuEvent>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QTextCursor>
 #include <QTextDocument>
 
@@ -57,8 +58,11 @@ private Q_SLOTS:
     void cornersAreNeverNormalised_data();
     void cornersAreNeverNormalised();
     void resizingWrapsTheText();
+    void resizingLetsOthersPaint();
+    void blockMayGoWhileItIsResized();
     void keepsItsGrabAfterADragAndOthersTakeIt();
     void doubleClickEditsUntilFocusIsLost();
+    void leavingDeselectsItsText();
     void doubleClickPutsTheTextCursor();
     void doubleClickLeavesAnyPartOfEditing_data();
     void doubleClickLeavesAnyPartOfEditing();
@@ -69,6 +73,7 @@ private Q_SLOTS:
     void keysFitTheBlockWithAnyPartOfEditing();
     void pressWhileEditedMovesNothing();
     void dragWhileEditedSelectsText();
+    void clickIntoSelectedTextDeselects();
     void newBlockThatIsEditedDoesNotFollow();
     void sizeMenuEntries();
     void sizeMenuSetsThePointSize_data();
@@ -228,6 +233,39 @@ void TextBlockTest::resizingWrapsTheText()
     QVERIFY(block->document()->size().height() > heightBefore);
 }
 
+/** Each step of a resize handles what is pending, so that the page keeps up with the pointer. */
+void TextBlockTest::resizingLetsOthersPaint()
+{
+    place();
+    ScenePointer pointer(*m_window.scene);
+    int handled = 0;
+    QObject others;
+    const auto post = [&others, &handled] {
+        QMetaObject::invokeMethod(
+            &others, [&handled] { ++handled; }, Qt::QueuedConnection);
+    };
+    pointer.press(QPointF(221, 280));
+    post();
+    pointer.moveTo(QPointF(200, 270));
+    QCOMPARE(handled, 1);
+    post();
+    pointer.release(QPointF(200, 270));
+    QCOMPARE(handled, 2);
+}
+
+/** What is handled meanwhile may be a document that arrives. */
+void TextBlockTest::blockMayGoWhileItIsResized()
+{
+    const QPointer<TonquillTextBlock> block = place();
+    ScenePointer pointer(*m_window.scene);
+    pointer.press(QPointF(221, 280));
+    QMetaObject::invokeMethod(
+        m_window.scene, [this] { m_window.scene->clearScene(); }, Qt::QueuedConnection);
+    pointer.moveTo(QPointF(200, 270));
+    QVERIFY(!block);
+    QVERIFY(m_window.scene->items().isEmpty());
+}
+
 void TextBlockTest::keepsItsGrabAfterADragAndOthersTakeIt()
 {
     TonquillTextBlock *first = place();
@@ -242,6 +280,11 @@ void TextBlockTest::keepsItsGrabAfterADragAndOthersTakeIt()
     QCOMPARE(m_window.scene->mouseGrabberItem(), second);
     QCOMPARE(second->pos(), QPointF(405, 220));
     QCOMPARE(first->pos(), QPointF(110, 210));
+
+    second->setSelected(false);
+    pointer.drag(QPointF(160, 250), QPointF(150, 240));
+    QCOMPARE(m_window.scene->mouseGrabberItem(), first);
+    QCOMPARE(first->pos(), QPointF(100, 200));
 }
 
 void TextBlockTest::doubleClickEditsUntilFocusIsLost()
@@ -251,6 +294,17 @@ void TextBlockTest::doubleClickEditsUntilFocusIsLost()
     m_window.scene->setFocusItem(nullptr);
     QCOMPARE(block->textInteractionFlags(), Qt::NoTextInteraction);
     QCOMPARE(block->itemStatus(), 0);
+}
+
+void TextBlockTest::leavingDeselectsItsText()
+{
+    TonquillTextBlock *block = place();
+    edit(block);
+    QTextCursor all(block->document());
+    all.select(QTextCursor::Document);
+    block->setTextCursor(all);
+    m_window.scene->setFocusItem(nullptr);
+    QVERIFY(!block->textCursor().hasSelection());
 }
 
 /** On the second of two lines; as everywhere, a double click selects the word. */
@@ -376,6 +430,21 @@ void TextBlockTest::dragWhileEditedSelectsText()
     ScenePointer(*m_window.scene).drag(QPointF(104.2, 210), QPointF(200, 210));
     QCOMPARE(block->textCursor().selectedText(), QString("verse"));
     QCOMPARE(block->pos(), QPointF(100, 200));
+}
+
+/** It might have begun a drag of the text, so it is the release that deselects. */
+void TextBlockTest::clickIntoSelectedTextDeselects()
+{
+    TonquillTextBlock *block = place("verse");
+    edit(block);
+    QTextCursor all(block->document());
+    all.select(QTextCursor::Document);
+    block->setTextCursor(all);
+    ScenePointer pointer(*m_window.scene);
+    pointer.press(QPointF(110, 210));
+    QCOMPARE(block->textCursor().selectedText(), QString("verse"));
+    pointer.release(QPointF(110, 210));
+    QCOMPARE(block->textCursor().selectedText(), QString());
 }
 
 /** A new block that a double click opens stays where it is, and the release places it. */
