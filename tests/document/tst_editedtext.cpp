@@ -33,6 +33,7 @@ private Q_SLOTS:
     void cleanup();
     void pressInsideGoesToNothingElse_data();
     void pressInsideGoesToNothingElse();
+    void pressInsidePutsTheTextCursor_data();
     void pressInsidePutsTheTextCursor();
     void pressElsewhereEndsEditing_data();
     void pressElsewhereEndsEditing();
@@ -119,8 +120,21 @@ void EditedTextTest::pressInsideGoesToNothingElse()
     QVERIFY(!isRubberBandShown());
 }
 
+void EditedTextTest::pressInsidePutsTheTextCursor_data()
+{
+    QTest::addColumn<bool>("otherHasGrab");
+    QTest::newRow("at once") << false;
+    QTest::newRow("after another block was dragged, which keeps the grab") << true;
+}
+
 void EditedTextTest::pressInsidePutsTheTextCursor()
 {
+    QFETCH(bool, otherHasGrab);
+    if (otherHasGrab) {
+        auto *dragged = new TonquillTextBlock(false, "la", QRectF(0, 0, 50, 50));
+        m_editor->scene().addNewItem(dragged);
+        dragged->grabMouse();
+    }
     QTextCursor cursor = m_block->textCursor();
     cursor.setPosition(3);
     m_block->setTextCursor(cursor);

@@ -54,6 +54,7 @@ private Q_SLOTS:
     void bandIsDashedWhileItIsDragged();
     void bandKeepsItsNegativeSize_data();
     void bandKeepsItsNegativeSize();
+    void bandIsNotPrinted();
     void pageIsPaintedAnewWithIt();
     void nothingIsForwardedMeanwhile();
     void onlyTheLeftReleaseEndsIt();
@@ -200,6 +201,18 @@ void RubberBandTest::bandKeepsItsNegativeSize()
     QPainterPath selecting;
     selecting.addRect(band);
     QCOMPARE(document.scene->selectionArea(), selecting);
+}
+
+void RubberBandTest::bandIsNotPrinted()
+{
+    PaperDocument document;
+    ScenePointer pointer(*document.scene);
+    pointer.press(QPointF(100, 100));
+    pointer.moveTo(QPointF(200, 200));
+    RecordingPrinter printer;
+    QPainter painter(&printer);
+    document.scene->drawForeground(&painter, QRectF());
+    QCOMPARE(printer.recorder().rects.size(), 0);
 }
 
 /** Each move shows the band at its new size, and its end takes it away. */

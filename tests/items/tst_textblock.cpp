@@ -259,8 +259,9 @@ void TextBlockTest::blockMayGoWhileItIsResized()
     const QPointer<TonquillTextBlock> block = place();
     ScenePointer pointer(*m_window.scene);
     pointer.press(QPointF(221, 280));
+    QObject host;
     QMetaObject::invokeMethod(
-        m_window.scene, [this] { m_window.scene->clearScene(); }, Qt::QueuedConnection);
+        &host, [this] { m_window.scene->clearScene(); }, Qt::QueuedConnection);
     pointer.moveTo(QPointF(200, 270));
     QVERIFY(!block);
     QVERIFY(m_window.scene->items().isEmpty());
