@@ -11,10 +11,14 @@
 
 namespace
 {
-const QString textblockEnd = QStringLiteral("tonquill_textblock_end");
-
-/** No kind has more fields; the simple text has nine after its keyword. */
-constexpr qsizetype mostFields = 9;
+// How many fields there are behind the keyword; of a text block, before its first line end.
+constexpr int bitmapFields = 4;
+constexpr int timesigFields = 4;
+constexpr int vectorFields = 6;
+constexpr int textFields = 9;
+constexpr int textblockFields = 4;
+constexpr int pageCountFields = 1;
+constexpr int mostFields = textFields;
 
 /** Where `text` has `character` first, or its end; fields are short, and indexOf() starts slowly.
  */
@@ -62,7 +66,7 @@ using Records::Record;
 Record parseBitmap(const QString &, QStringView rest)
 {
     const Fields fields(rest);
-    if (fields.count() < 4)
+    if (fields.count() < bitmapFields)
         return {};
     return Records::Bitmap{fields.number(0), fields.number(1), fields.number(2),
                            fields.number(3) != 0};
@@ -71,7 +75,7 @@ Record parseBitmap(const QString &, QStringView rest)
 Record parseTimeSig(const QString &, QStringView rest)
 {
     const Fields fields(rest);
-    if (fields.count() < 4)
+    if (fields.count() < timesigFields)
         return {};
     return Records::TimeSig{fields.number(0), fields.number(1), fields.number(2), fields.number(3)};
 }
@@ -79,7 +83,7 @@ Record parseTimeSig(const QString &, QStringView rest)
 Record parseVector(const QString &keyword, QStringView rest)
 {
     const Fields fields(rest);
-    if (fields.count() < 6)
+    if (fields.count() < vectorFields)
         return {};
     return Records::Vector{keyword,          fields.number(0), fields.number(1), fields.number(2),
                            fields.number(3), fields.number(4), fields.number(5)};
@@ -88,7 +92,7 @@ Record parseVector(const QString &keyword, QStringView rest)
 Record parseText(const QString &, QStringView rest)
 {
     const Fields fields(rest);
-    if (fields.count() < 9)
+    if (fields.count() < textFields)
         return {};
     // The colour was written with its alpha, eight hexadecimal digits, which no int holds: it
     // reads as 0. The angle is read as a whole number. Both are meant.
@@ -103,9 +107,9 @@ Record parseTextBlock(const QString &, QStringView rest)
     if (lineBreak < 0)
         return {};
     const QStringView body = rest.sliced(lineBreak + 1);
-    const qsizetype end = body.indexOf(textblockEnd);
+    const qsizetype end = body.indexOf(Records::textblockEnd());
     const Fields header(rest.first(lineBreak));
-    if (end < 0 || header.count() < 4)
+    if (end < 0 || header.count() < textblockFields)
         return {};
     return Records::TextBlock{header.number(0), header.number(1), header.number(2),
                               header.number(3), body.first(end).toString()};
@@ -114,22 +118,22 @@ Record parseTextBlock(const QString &, QStringView rest)
 /** How the records of one kind are read. */
 struct Reader
 {
-    QString keyword;
+    Records::Kind kind;
     Record (*parse)(const QString &keyword, QStringView rest);
 };
 
 const QList<Reader> &readers()
 {
     static const QList<Reader> table{
-        {Records::bitmapKeyword(), parseBitmap},
-        {Records::timesigKeyword(), parseTimeSig},
-        {Records::grandstaffKeyword(), parseVector},
-        {Records::interactivelineKeyword(), parseVector},
-        {Records::linetabKeyword(), parseVector},
-        {Records::notetieKeyword(), parseVector},
-        {Records::tripletKeyword(), parseVector},
-        {Records::textKeyword(), parseText},
-        {Records::textblockKeyword(), parseTextBlock},
+        {{Records::bitmapKeyword(), bitmapFields}, parseBitmap},
+        {{Records::timesigKeyword(), timesigFields}, parseTimeSig},
+        {{Records::grandstaffKeyword(), vectorFields}, parseVector},
+        {{Records::interactivelineKeyword(), vectorFields}, parseVector},
+        {{Records::linetabKeyword(), vectorFields}, parseVector},
+        {{Records::notetieKeyword(), vectorFields}, parseVector},
+        {{Records::tripletKeyword(), vectorFields}, parseVector},
+        {{Records::textKeyword(), textFields}, parseText},
+        {{Records::textblockKeyword(), textblockFields}, parseTextBlock},
     };
     return table;
 }
@@ -219,6 +223,27 @@ QString Records::textblockKeyword()
     return QStringLiteral("tonquill_textblock_begin");
 }
 
+QString Records::pageCountKeyword()
+{
+    return QStringLiteral("tonquill_pagecount");
+}
+
+QString Records::textblockEnd()
+{
+    return QStringLiteral("tonquill_textblock_end");
+}
+
+const QList<Records::Kind> &Records::kinds()
+{
+    static const QList<Kind> table = [] {
+        QList<Kind> result{{pageCountKeyword(), pageCountFields}};
+        for (const Reader &reader : readers())
+            result.append(reader.kind);
+        return result;
+    }();
+    return table;
+}
+
 QStringView Records::keywordOf(QStringView record)
 {
     const qsizetype blank = positionOf(u' ', record);
@@ -238,16 +263,17 @@ Records::Record Records::parse(QStringView record)
     const QStringView keyword = keywordOf(record);
     if (keyword.isEmpty())
         return {};
-    const auto reader = std::find_if(readers().cbegin(), readers().cend(),
-                                     [keyword](const Reader &r) { return r.keyword == keyword; });
+    const auto reader =
+        std::find_if(readers().cbegin(), readers().cend(),
+                     [keyword](const Reader &r) { return r.kind.keyword == keyword; });
     if (reader == readers().cend())
         return {};
-    return reader->parse(reader->keyword, record.sliced(keyword.size() + 1));
+    return reader->parse(reader->kind.keyword, record.sliced(keyword.size() + 1));
 }
 
 QString Records::pageCountLine(int pageCount)
 {
-    return (RecordLine(QStringLiteral("tonquill_pagecount")) << pageCount).ended();
+    return (RecordLine(pageCountKeyword()) << pageCount).ended();
 }
 
 QString Records::format(const Bitmap &record, const QString &keyword)
@@ -285,7 +311,7 @@ QString Records::format(const TextBlock &record, const QString &keyword)
         (RecordLine(keyword) << record.x << record.y << record.width << record.height).ended();
     result += record.text;
     result += u'\n';
-    result += textblockEnd;
+    result += textblockEnd();
     result += u'\n';
     return result;
 }

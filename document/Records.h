@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QRgb>
 #include <QString>
 
@@ -28,6 +29,22 @@ QString tripletKeyword();
 QString textKeyword();
 QString textblockKeyword();
 
+/** The first word of the page-count line, which builds nothing. */
+QString pageCountKeyword();
+
+/** What stands behind the text of a text block. */
+QString textblockEnd();
+
+/** A first word that is known, and how many fields there are at least behind it. */
+struct Kind
+{
+    QString keyword;
+    int fields;
+};
+
+/** The nine kinds of records and the page-count line. */
+const QList<Kind> &kinds();
+
 /** A glyph. */
 struct Bitmap
 {
@@ -35,6 +52,7 @@ struct Bitmap
     int x;
     int y;
     bool inverted;
+    bool operator==(const Bitmap &) const = default;
 };
 
 /** A time signature. */
@@ -44,6 +62,7 @@ struct TimeSig
     int y;
     int numerator;
     int denominator;
+    bool operator==(const TimeSig &) const = default;
 };
 
 /** A figure between two points, which are relative to (x, y). */
@@ -56,6 +75,7 @@ struct Vector
     int startY;
     int endX;
     int endY;
+    bool operator==(const Vector &) const = default;
 };
 
 /** A simple text. */
@@ -70,6 +90,7 @@ struct Text
     int pointSize;
     QRgb color;
     double rotation; ///< degrees; only whole ones are read back
+    bool operator==(const Text &) const = default;
 };
 
 /** A text block. */
@@ -80,6 +101,7 @@ struct TextBlock
     int width;
     int height;
     QString text;
+    bool operator==(const TextBlock &) const = default;
 };
 
 /** One record as read; empty if nothing is to be built from it. */
