@@ -75,8 +75,11 @@ public:
      */
     void constructItem(const QString &record, bool adding, int offset);
 
-    /** Builds an item from each of the records, which are separated by "|". */
-    void constructDocument(QStringView records);
+    /**
+     * Builds an item from each of the records, which are separated by "|", and returns the last
+     * item, or none if nothing was built. An item that waits to be placed goes on waiting.
+     */
+    ItemReference constructDocument(QStringView records);
 
     // Items
 

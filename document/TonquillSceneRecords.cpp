@@ -46,8 +46,10 @@ void TonquillScene::constructItem(const QString &record, bool adding, int offset
     build(Records::parse(record), adding, offset);
 }
 
-void TonquillScene::constructDocument(QStringView records)
+ItemReference TonquillScene::constructDocument(QStringView records)
 {
+    // A glyph that is inserted makes the scene drop the item that waits to be placed.
+    const QList<ItemReference> waiting = std::exchange(m_waiting, {});
     // Once all has to be painted, the toolkit keeps no list of what each item would have painted
     // anew, which takes more time and memory than the items.
     update();
@@ -59,7 +61,11 @@ void TonquillScene::constructDocument(QStringView records)
         build(Records::parse(record), false, 0);
     }
     m_isBuildingDocument = false;
+    m_waiting = waiting;
+    if (!m_lastBuilt)
+        return {};
     m_lastAdded = ItemReference(m_lastBuilt);
+    return m_lastAdded;
 }
 
 namespace
