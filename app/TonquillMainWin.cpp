@@ -102,6 +102,8 @@ TonquillMainWin::~TonquillMainWin()
     if (g_pMainWin == this)
         g_pMainWin = nullptr;
     socket.disconnect(this);
+    // Nor must the host's last message, which is handled when the connection ends.
+    m_hostLink.reset();
     socket.disconnectFromServer();
     socket.close();
     delete ui;
