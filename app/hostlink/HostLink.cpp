@@ -8,29 +8,36 @@
 
 #include <QMessageBox>
 
+#include <utility>
+
 namespace
 {
-// Milliseconds. A message that breaks off within a record is given longer, for its writer may
-// only have been held up; and one that never ends is judged by what came. The longer a message,
-// the likelier is a pause within it, and the less is a longer wait noticed.
-constexpr int quietAfterRecord = 60;
-constexpr int quietWithinRecord = 400;
+// Milliseconds. The longer a message, the likelier is a pause within it, and the less is a longer
+// wait noticed. A guess that was wrong costs no more than building the rest later.
+constexpr int quietAfterMessage = 60;
+constexpr int longestQuiet = 400;
 constexpr qsizetype bytesForOneMore = 64 * 1024;
-constexpr qint64 longestMessage = 30000;
+constexpr qint64 longestWait = 30000;
 
 int quietTimeOf(const IncomingMessage &message)
 {
-    if (!message.endsWithRecord())
-        return quietWithinRecord;
     return static_cast<int>(
-        qMin<qsizetype>(quietAfterRecord + message.size() / bytesForOneMore, quietWithinRecord));
+        qMin<qsizetype>(quietAfterMessage + message.size() / bytesForOneMore, longestQuiet));
 }
 } // namespace
 
 HostLink::HostLink(TonquillMainWin &window)
-    : m_window(window)
+    : QObject(&window)
+    , m_window(window)
+    , m_quiet(this)
+    , m_silence(this)
+    , m_document(window)
 {
     m_quiet.setSingleShot(true);
+    m_quiet.setObjectName(QStringLiteral("quiet"));
+    m_silence.setSingleShot(true);
+    m_silence.setObjectName(QStringLiteral("silence"));
+    connect(&m_silence, SIGNAL(timeout()), this, SLOT(giveUpIfQuiet()));
     connect(&m_quiet, SIGNAL(timeout()), this, SLOT(judgeIfQuiet()));
     connect(&window.socket, SIGNAL(bytesWritten(qint64)), this, SLOT(sendNext()));
     connect(&window.socket, SIGNAL(disconnected()), this, SLOT(onDisconnected()));
@@ -55,10 +62,15 @@ void HostLink::readAvailable()
     if (m_incoming.isEmpty())
         m_sinceFirstPiece.start();
     m_incoming.append(bytes);
-    if (m_incoming.isOneSmallPiece() || m_sinceFirstPiece.hasExpired(longestMessage))
+    startTimes();
+    if (m_incoming.isOneSmallPiece() || m_sinceFirstPiece.hasExpired(longestWait))
         judge();
-    else
-        m_quiet.start(quietTimeOf(m_incoming));
+}
+
+void HostLink::startTimes()
+{
+    m_quiet.start(quietTimeOf(m_incoming));
+    m_silence.start(static_cast<int>(longestWait));
 }
 
 /**
@@ -75,19 +87,46 @@ void HostLink::judgeIfQuiet()
         judge();
 }
 
+/** Nothing may be dropped before it is certain that no more has come. */
+void HostLink::giveUpIfQuiet()
+{
+    judgeIfQuiet();
+    if (m_paused || m_silence.isActive() || m_incoming.isEmpty())
+        return;
+    qCWarning(lcTonquill) << "a message that broke off has not gone on and is dropped";
+    m_incoming.drop();
+    judge();
+}
+
 void HostLink::judge()
 {
     m_quiet.stop();
-    const QString text = m_incoming.take();
-    if (text.startsWith(HostMessages::fromHost))
-        act(text.sliced(HostMessages::fromHost.size()));
+    m_sinceFirstPiece.start();
+    while (const std::optional<IncomingMessage::Message> message = m_incoming.take())
+        handle(*message);
+    if (!m_incoming.isEmpty())
+        return;
+    m_silence.stop();
+    if (std::exchange(m_owesDocument, false))
+        sendDocument();
+}
+
+void HostLink::handle(const IncomingMessage::Message &message)
+{
+    if (!message.cameBefore) {
+        if (message.text.startsWith(HostMessages::fromHost))
+            act(message.text.sliced(HostMessages::fromHost.size()));
+    } else if (HostMessages::isState(message.text)) {
+        act(message.text); // all that had come of it was its prefix
+    } else if (m_document.goOn(message.text, *message.cameBefore) && m_toldHost) {
+        m_owesDocument = true; // what the host was told lacks the rest
+    }
 }
 
 void HostLink::act(const QString &payload)
 {
     if (payload == HostMessages::stateActivate) {
-        m_window.setVisible(true);
-        m_window.raise();
+        showWindow();
     } else if (payload == HostMessages::stateNothingToUndo) {
         showBox(QStringLiteral("Undo"), QStringLiteral("Nothing to undo"));
     } else if (payload == HostMessages::stateNothingToRedo) {
@@ -95,6 +134,15 @@ void HostLink::act(const QString &payload)
     } else {
         m_window.twMsg(payload);
     }
+}
+
+/** Raising alone leaves a minimised window where it is, and the keyboard with another one. */
+void HostLink::showWindow()
+{
+    m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
+    m_window.setVisible(true);
+    m_window.raise();
+    m_window.activateWindow();
 }
 
 /**
@@ -114,9 +162,9 @@ void HostLink::showBox(const QString &title, const QString &text)
 
 void HostLink::receiveDocument(const QString &payload)
 {
-    m_window.scene->clearScene();
-    // A page-count line builds nothing: pages come and go with the user's page controls only.
-    m_window.scene->constructDocument(payload);
+    m_document.show(payload);
+    m_toldHost = false;
+    m_owesDocument = false; // what the user did meanwhile is gone
 }
 
 void HostLink::pause()
@@ -135,20 +183,20 @@ void HostLink::resume()
     }
     readAvailable();
     if (!m_incoming.isEmpty() && !m_quiet.isActive())
-        m_quiet.start(quietTimeOf(m_incoming));
+        startTimes();
 }
 
+/** What is cut off within a record is no document: better the one that the user sees. */
 void HostLink::onDisconnected()
 {
     m_outbox.clear();
     if (m_paused)
         return;
     readAvailable();
-    // What is cut off within a record is no document: better the one that the user sees.
-    if (m_incoming.endsWithRecord())
-        judge();
-    m_quiet.stop();
-    m_incoming.take();
+    judge();
+    m_silence.stop();
+    m_incoming.drop();
+    m_owesDocument = false;
 }
 
 void HostLink::sendDocument()
@@ -172,6 +220,12 @@ void HostLink::sendNext()
     if (m_outbox.isEmpty() || m_window.socket.bytesToWrite() > 0)
         return;
     const Outbox::Message next = m_outbox.takeFirst();
+    if (next.isDocument() && m_incoming.isFromHost()) {
+        m_owesDocument = true;
+        sendNext();
+        return;
+    }
+    m_toldHost = m_toldHost || next.isDocument();
     const QString text = next.isDocument() ? m_window.scene->notifyTW() : next.command;
     qCDebug(lcRecords).noquote() << "notifyTW " << HostMessages::toHost + text;
     // Latin-1 keeps an accented letter; what it lacks becomes a question mark.

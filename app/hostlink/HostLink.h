@@ -2,6 +2,7 @@
 
 #include "IncomingMessage.h"
 #include "Outbox.h"
+#include "ReceivedDocument.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -12,15 +13,16 @@ class TonquillMainWin;
 /**
  * The editor's end of the local socket to the host.
  *
- * Incoming: collects a message, judges it once it is whole, and acts on it. Outgoing: one message
- * at a time, the document in its newest state. Without a host everything sent is silently lost.
+ * Incoming: collects messages, judges them once the host is quiet, and acts on those that are
+ * whole. Outgoing: one message at a time, the document in its newest state, but not while one of
+ * the host's is known to be incomplete. Without a host everything sent is silently lost.
  */
 class HostLink : public QObject
 {
     Q_OBJECT
 
 public:
-    /** Works on `window` and its socket, both of which outlive the link. */
+    /** Works on `window`, which is its parent and outlives it, and on the window's socket. */
     explicit HostLink(TonquillMainWin &window);
 
     /**
@@ -50,18 +52,26 @@ public:
 
 private Q_SLOTS:
     void judgeIfQuiet();
+    void giveUpIfQuiet();
     void sendNext();
     void onDisconnected();
 
 private:
+    void startTimes();
     void judge();
+    void handle(const IncomingMessage::Message &message);
     void act(const QString &payload);
+    void showWindow();
     void showBox(const QString &title, const QString &text);
 
     TonquillMainWin &m_window;
     IncomingMessage m_incoming;
     QElapsedTimer m_sinceFirstPiece;
-    QTimer m_quiet;
+    QTimer m_quiet;   ///< after it what came is judged
+    QTimer m_silence; ///< after it what broke off is dropped
     Outbox m_outbox;
+    ReceivedDocument m_document;
+    bool m_toldHost = false;     ///< a document was sent since the host's last one was shown
+    bool m_owesDocument = false; ///< one is to be sent as soon as none is incomplete
     bool m_paused = false;
 };

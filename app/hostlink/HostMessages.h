@@ -15,6 +15,13 @@ inline const QString stateActivate = QStringLiteral("state:activate");
 inline const QString stateNothingToUndo = QStringLiteral("state:nothingtoundo");
 inline const QString stateNothingToRedo = QStringLiteral("state:nothingtoredo");
 
+/** True if the text behind the prefix is a state, and no document. */
+inline bool isState(const QString &payload)
+{
+    return payload == stateActivate || payload == stateNothingToUndo ||
+           payload == stateNothingToRedo;
+}
+
 inline const QString commandRaise = QStringLiteral("command:raise");
 inline const QString commandUndo = QStringLiteral("command:undo");
 inline const QString commandRedo = QStringLiteral("command:redo");

@@ -1,0 +1,52 @@
+#include "ReceivedDocument.h"
+
+#include "TonquillMainWin.h"
+#include "TonquillScene.h"
+
+ReceivedDocument::ReceivedDocument(TonquillMainWin &window)
+    : m_window(window)
+{}
+
+void ReceivedDocument::show(QStringView payload)
+{
+    m_window.scene->clearScene();
+    // A page-count line builds nothing: pages come and go with the user's page controls only.
+    build(payload);
+}
+
+/** The last record by itself, for it alone may become another one. */
+bool ReceivedDocument::build(QStringView records)
+{
+    const qsizetype last = records.lastIndexOf(u'|') + 1;
+    const bool hasBuilt =
+        m_window.scene->constructDocument(records.first(last)).object() != nullptr;
+    m_lastItem = m_window.scene->constructDocument(records.sliced(last));
+    return hasBuilt || m_lastItem.object() != nullptr;
+}
+
+bool ReceivedDocument::goOn(QStringView text, qsizetype cameBefore)
+{
+    QStringView rest = text;
+    const QStringView record = Records::takeFirst(rest);
+    const Records::Record before = Records::parse(text.first(cameBefore));
+    bool hasChanged = false;
+    if (Records::parse(record) != before) {
+        if (std::holds_alternative<std::monostate>(before))
+            hasChanged = build(record);
+        else
+            hasChanged = replaceLastItem(record);
+    }
+    if (record.size() < text.size())
+        hasChanged = build(rest) || hasChanged;
+    return hasChanged;
+}
+
+/** Its last number had been cut. Gone, it stays gone: the user has deleted it meanwhile. */
+bool ReceivedDocument::replaceLastItem(QStringView record)
+{
+    QGraphicsItem *item = m_lastItem.get(m_window.scene);
+    if (!item)
+        return false;
+    m_window.scene->destroyItems({item});
+    return build(record);
+}
