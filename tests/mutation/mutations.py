@@ -138,9 +138,30 @@ MUTATIONS = [
     Mutation(
         "a message goes on behind a NUL",
         "app/hostlink/IncomingMessage.cpp",
-        "m_bytes.indexOf('\\0');",
+        "m_nul < 0 ? news.indexOf('\\0') : -1;",
         "-1;",
         "tst_messages",
+    ),
+    Mutation(
+        "the rest of a document is not built",
+        "app/hostlink/DocumentStop.cpp",
+        "if (bytes.startsWith('|') || bytes.startsWith('\\n'))\n        return true;",
+        "",
+        "tst_cutdocuments",
+    ),
+    Mutation(
+        "the host is told of a document that is incomplete",
+        "app/hostlink/HostLink.cpp",
+        "next.isDocument() && m_incoming.isFromHost()",
+        "next.isDocument() && false",
+        "tst_cutdocuments",
+    ),
+    Mutation(
+        "a prefix that the user typed begins a message",
+        "app/hostlink/IncomingMessage.cpp",
+        "(isWholePrefix && !goesOnAsText(at))",
+        "isWholePrefix",
+        "tst_linkbuffers",
     ),
     Mutation(
         "the host's records are separated by line ends",
