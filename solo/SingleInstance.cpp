@@ -68,7 +68,11 @@ void SingleInstance::onNewConnection()
             const QByteArray line = socket->readLine().trimmed();
             socket->write(answer);
             socket->disconnectFromServer();
-            Q_EMIT fileHandedOver(QUrl::fromPercentEncoding(line));
+            // Whoever hears of it may open a dialog, whose loop would delete the socket within its
+            // own signal; so it is told afterwards.
+            const QString path = QUrl::fromPercentEncoding(line);
+            QMetaObject::invokeMethod(
+                this, [this, path] { Q_EMIT fileHandedOver(path); }, Qt::QueuedConnection);
         };
         connect(socket, &QLocalSocket::readyRead, this, read);
         read();

@@ -22,7 +22,7 @@ public:
     bool handOver(const QString &path) const;
 
 Q_SIGNALS:
-    /** A later start came with this file, or with none. */
+    /** A later start came with this file, or with none. Told from the event loop. */
     void fileHandedOver(QString path);
 
 private:

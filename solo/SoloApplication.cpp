@@ -157,12 +157,7 @@ int SoloApplication::runWindow(const SoloArguments &arguments)
 
     SoloWindow solo(dataFolder());
     const QString hostError = solo.startHost();
-    QObject::connect(&instance, &SingleInstance::fileHandedOver, &solo,
-                     [&solo](const QString &path) {
-                         solo.show();
-                         if (!path.isEmpty())
-                             solo.files().openFile(path);
-                     });
+    QObject::connect(&instance, &SingleInstance::fileHandedOver, &solo, &SoloWindow::openLater);
     QObject::connect(&solo, &SoloWindow::finished, [] { QCoreApplication::exit(0); });
     // Questions wait until the window is in its place, for they are asked in its middle.
     QObject::connect(&solo, &SoloWindow::appeared, &solo, [&solo, &arguments, &file, &hostError] {

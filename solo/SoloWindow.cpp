@@ -3,6 +3,7 @@
 #include "MenuBar.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
 
@@ -30,8 +31,10 @@ SoloWindow::SoloWindow(const QString &folder)
     connect(menus, &MenuBar::redoRequested, this, &SoloWindow::redo);
     connect(menus, &MenuBar::quitRequested, this, &SoloWindow::quit);
     connect(&m_host, &BuiltInHost::edited, &m_session.edits(), &EditWatcher::checkSoon);
-    connect(&m_host, &BuiltInHost::undoRequested, this, &SoloWindow::undo);
-    connect(&m_host, &BuiltInHost::redoRequested, this, &SoloWindow::redo);
+    connect(&m_host, &BuiltInHost::undoRequested, this,
+            [this] { m_errands.add([this] { undo(); }); });
+    connect(&m_host, &BuiltInHost::redoRequested, this,
+            [this] { m_errands.add([this] { redo(); }); });
     connect(&m_host, &BuiltInHost::raiseRequested, this, &SoloWindow::show);
     connect(&m_session, &DocumentSession::changed, this, &SoloWindow::refreshTitle);
     connect(&m_session.edits(), &EditWatcher::documentChanged, &m_pages, &PageControls::refresh);
@@ -50,7 +53,15 @@ void SoloWindow::show()
 {
     m_window.showNormal();
     m_window.raise();
-    m_window.activateWindow();
+    QWidget *dialog = QApplication::activeModalWidget();
+    (dialog ? dialog : &m_window)->activateWindow();
+}
+
+void SoloWindow::openLater(const QString &path)
+{
+    show();
+    if (!path.isEmpty())
+        m_errands.add([this, path] { m_files.openFile(path); });
 }
 
 void SoloWindow::undo()

@@ -2,6 +2,7 @@
 
 #include "BuiltInHost.h"
 #include "DocumentSession.h"
+#include "ErrandQueue.h"
 #include "FileCommands.h"
 #include "PageControls.h"
 #include "TonquillMainWin.h"
@@ -27,11 +28,17 @@ public:
     DocumentSession &session() { return m_session; }
     FileCommands &files() { return m_files; }
 
+    /** For what comes from outside the window. */
+    ErrandQueue &errands() { return m_errands; }
+
     /** Starts the host and connects the editor to it. The answer is empty, or an error. */
     QString startHost();
 
-    /** Shows the window in front of the others. */
+    /** Shows the window in front of the others, with the dialog that it may be waiting for. */
     void show();
+
+    /** Shows the window and opens a file, if one is given, as soon as nothing else goes on. */
+    void openLater(const QString &path);
 
     /** Asks about unsaved changes; then finished() is emitted, unless the user rather goes on. */
     void quit();
@@ -53,6 +60,7 @@ private:
     void sayNothingLeft(const QString &title, const QString &text);
     void refreshTitle();
 
+    ErrandQueue m_errands;
     TonquillMainWin m_window;
     DocumentSession m_session;
     FileCommands m_files;

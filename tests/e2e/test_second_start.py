@@ -1,0 +1,68 @@
+"""A later start of the program, whatever the first one is busy with."""
+
+import pathlib
+import sys
+import unittest
+
+from desktop import Desktop
+from solo import BOX, NOTE, SAVE_AS, Solo, document
+from workbench import stop_after, tool
+
+PROGRAMS = pathlib.Path(sys.argv.pop(1))
+
+
+class SecondStartTest(unittest.TestCase):
+    def setUp(self):
+        self.desktop = self.enterContext(Desktop())
+        self.song = self.desktop.folder / "song.tonquill"
+        self.other = self.desktop.folder / "other.tonquill"
+        self.song.write_text(document())
+        self.other.write_text(document((100, 200), (150, 200)))
+
+    def test_a_question_may_be_cancelled_again_and_again(self):
+        # Freed memory is overwritten, so that using it again does not go well by luck.
+        strict = {"MALLOC_PERTURB_": "165"}
+        solo = Solo(self.desktop, PROGRAMS, self.song, environment=strict)
+        solo.edit(r"song\.tonquill")
+        for _ in range(5):
+            self.assertEqual(solo.start_again(self.other), 0)
+            solo.titled(BOX)
+            self.desktop.key("Escape")
+            solo.main(r"song\.tonquill", modified=True)
+        self.assertTrue(solo.is_running(), solo.log())
+
+    def test_waits_until_a_name_to_save_under_is_chosen(self):
+        solo = Solo(self.desktop, PROGRAMS, self.song)
+        solo.edit(r"song\.tonquill")
+        self.desktop.key("ctrl+shift+s")
+        solo.titled(SAVE_AS)
+        self.assertEqual(solo.start_again(self.other), 0)
+        copy = self.desktop.folder / "copy.tonquill"
+        solo.titled(SAVE_AS)
+        solo.type_path(copy)
+        # Saved, so that nothing needs to be asked before the other file is shown.
+        solo.main(r"other\.tonquill")
+        self.assertIn(NOTE.format(301, 150), copy.read_text())
+        self.assertEqual(self.song.read_text(), document())
+        self.assertEqual(self.other.read_text(), document((100, 200), (150, 200)))
+
+    def test_waits_for_the_end_of_an_export(self):
+        long, pdf = self.desktop.folder / "long.tonquill", self.desktop.folder / "long.pdf"
+        pages, per_page = 3000, 20
+        glyphs = [(x * 30, page * 1100 + 200) for page in range(pages) for x in range(per_page)]
+        long.write_text(document(*glyphs).replace("pagecount 1", f"pagecount {pages}"))
+        solo = Solo(self.desktop, PROGRAMS, long, window=r"^long\.tonquill –")
+        self.desktop.key("ctrl+e")
+        solo.titled("^Export as PDF$")
+        solo.type_path(pdf)
+        # The progress of a print that proves to be a long one.
+        solo.titled(BOX)
+        self.assertEqual(solo.start_again(self.other), 0)
+        solo.main(r"other\.tonquill")
+        told = self.desktop.run([tool("pdfinfo"), pdf]).stdout
+        self.assertIn(f"Pages:           {pages}\n", told)
+
+
+if __name__ == "__main__":
+    stop_after(120)
+    unittest.main(verbosity=2)
