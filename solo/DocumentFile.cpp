@@ -3,9 +3,7 @@
 #include "AtomicFile.h"
 #include "DocumentReader.h"
 #include "ItemRecords.h"
-
-#include <QFile>
-#include <QFileInfo>
+#include "OrdinaryFile.h"
 
 namespace
 {
@@ -52,16 +50,21 @@ DocumentFile::Reading DocumentFile::parse(const QByteArray &bytes, const Paper &
 
 DocumentFile::Reading DocumentFile::load(const QString &path, const Paper &defaultPaper)
 {
-    QFile file(path);
-    Reading failed;
-    if (QFileInfo(path).isDir())
-        failed.problems = {{0, QCoreApplication::translate("DocumentFile", "This is a folder.")}};
-    else if (!file.open(QIODevice::ReadOnly))
-        failed.problems = {{0, file.errorString()}};
-    return failed.problems.isEmpty() ? parse(file.readAll(), defaultPaper) : failed;
+    const OrdinaryFile::Contents contents = OrdinaryFile::read(path);
+    Reading reading;
+    if (contents.error.isEmpty())
+        reading = parse(contents.bytes, defaultPaper);
+    else
+        reading.problems = {{0, contents.error}};
+    reading.stamp = FileStamp::of(path, contents.bytes);
+    return reading;
 }
 
-QString DocumentFile::save(const QString &path, const DocumentSnapshot &document)
+QString DocumentFile::save(const QString &path, const DocumentSnapshot &document, FileStamp *stamp)
 {
-    return AtomicFile::write(path, format(document));
+    const QByteArray bytes = format(document);
+    const QString error = AtomicFile::write(path, bytes);
+    if (error.isEmpty() && stamp)
+        *stamp = FileStamp::of(path, bytes);
+    return error;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DocumentSnapshot.h"
+#include "FileStamp.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -29,6 +30,8 @@ struct Reading
     DocumentSnapshot document; ///< all that could be read
     QList<Problem> problems;   ///< empty if that is everything
     bool isDocument = false;   ///< false: this is no document, there is nothing to offer
+    bool isOfHost = false;     ///< a plain document of the host link
+    FileStamp stamp;           ///< the file, if it was one
 
     /** The problems as one text, a line each; many are summed up. */
     QString problemText() const;
@@ -40,9 +43,15 @@ QByteArray format(const DocumentSnapshot &document);
 /** Reads the bytes of a file. Without paper of its own the document lies on `defaultPaper`. */
 Reading parse(const QByteArray &bytes, const Paper &defaultPaper);
 
-/** Reads a file; one that cannot be opened is a Reading that is no document and says why. */
+/**
+ * Reads a file; one that cannot be opened is a Reading that is no document and says why. What is
+ * not an ordinary file is not waited for.
+ */
 Reading load(const QString &path, const Paper &defaultPaper);
 
-/** Writes a file at once or not at all. The answer is empty, or says what went wrong. */
-QString save(const QString &path, const DocumentSnapshot &document);
+/**
+ * Writes a file atomically. The answer is empty, or says what went wrong; only if nothing did,
+ * `stamp` is what the file is then.
+ */
+QString save(const QString &path, const DocumentSnapshot &document, FileStamp *stamp = nullptr);
 } // namespace DocumentFile
