@@ -32,6 +32,7 @@ DocumentFile::Reading DocumentReader::read(const QByteArray &bytes)
     splitLines(bytes);
     if (m_lines.value(0).startsWith(hostKeywordBegin)) {
         m_reading.isDocument = true;
+        m_reading.isOfHost = true;
         readHostLines();
     } else if (readFirstLine()) {
         m_reading.isDocument = true;
@@ -85,12 +86,20 @@ void DocumentReader::readOwnLines()
         const QString &line = m_lines[m_at];
         ended = line == endLine;
         if (!ended && !line.isEmpty() && !readPageCount(line) && !readPaper(line))
-            addItem(ItemRecords::parse(line), lineNumber(m_at));
+            readOwnItem(line);
     }
     if (!ended)
         addProblem(lineNumber(m_at), tr("The document breaks off here."));
     else if (m_at < m_lines.size())
         addProblem(lineNumber(m_at), tr("There is more behind the document's end."));
+}
+
+void DocumentReader::readOwnItem(const QString &line)
+{
+    QStringList unknown;
+    addItem(ItemRecords::parse(line, &unknown), lineNumber(m_at));
+    for (const QString &field : std::as_const(unknown))
+        addProblem(lineNumber(m_at), tr("The field “%1” is not known.").arg(field));
 }
 
 void DocumentReader::readHostLines()

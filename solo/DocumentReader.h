@@ -19,6 +19,7 @@ private:
     void splitLines(const QByteArray &bytes);
     bool readFirstLine();
     void readOwnLines();
+    void readOwnItem(const QString &line);
     void readHostLines();
     void readHostBlock();
     bool readPageCount(const QString &line);

@@ -239,22 +239,51 @@ Any readTextBlock(Reader &reader)
         isHtml};
 }
 
-using ReadItem = Any (*)(Reader &);
-
-const QHash<QString, ReadItem> &readers()
+/** A kind of record: how it is read, and which fields it may have. */
+struct Kind
 {
-    static const QHash<QString, ReadItem> table{
-        {Records::bitmapKeyword(), readGlyph},
-        {Records::timesigKeyword(), readTimeSignature},
-        {Records::grandstaffKeyword(), readFigure},
-        {Records::interactivelineKeyword(), readFigure},
-        {Records::linetabKeyword(), readFigure},
-        {Records::notetieKeyword(), readFigure},
-        {Records::tripletKeyword(), readFigure},
-        {Records::textKeyword(), readText},
-        {blockKeyword(), readTextBlock},
+    Any (*read)(Reader &) = nullptr;
+    qsizetype plainFields = 0; ///< with the keyword
+    QStringList names;
+};
+
+QStringList withFont(const QStringList &names)
+{
+    return names + QStringList{QStringLiteral("font"),     QStringLiteral("size"),
+                               QStringLiteral("pixels"),   QStringLiteral("weight"),
+                               QStringLiteral("italic"),   QStringLiteral("oblique"),
+                               QStringLiteral("underline")};
+}
+
+const QHash<QString, Kind> &kinds()
+{
+    static const Kind figure{readFigure, 7, {QStringLiteral("anchors")}};
+    static const QHash<QString, Kind> table{
+        {Records::bitmapKeyword(), {readGlyph, 4, {QStringLiteral("inverted")}}},
+        {Records::timesigKeyword(), {readTimeSignature, 5, {}}},
+        {Records::grandstaffKeyword(), figure},
+        {Records::interactivelineKeyword(), figure},
+        {Records::linetabKeyword(), figure},
+        {Records::notetieKeyword(), figure},
+        {Records::tripletKeyword(), figure},
+        {Records::textKeyword(),
+         {readText, 3,
+          withFont({QStringLiteral("text"), QStringLiteral("color"), QStringLiteral("rotation")})}},
+        {blockKeyword(),
+         {readTextBlock, 7,
+          withFont({QStringLiteral("text"), QStringLiteral("html"), QStringLiteral("wrap")})}},
     };
     return table;
+}
+
+QStringList unknownFields(const QuotedFields &fields, const Kind &kind)
+{
+    QStringList result = fields.plain().mid(kind.plainFields);
+    for (const QString &name : fields.names()) {
+        if (!kind.names.contains(name))
+            result.append(name);
+    }
+    return result;
 }
 } // namespace
 
@@ -282,15 +311,19 @@ QByteArray ItemRecords::format(const Any &state)
     return std::visit([](const auto &item) { return formatOne(item); }, state);
 }
 
-std::optional<Any> ItemRecords::parse(const QString &line)
+std::optional<Any> ItemRecords::parse(const QString &line, QStringList *unknown)
 {
     const std::optional<QuotedFields> fields = QuotedFields::parse(line);
     if (!fields)
         return std::nullopt;
     Reader reader(*fields);
-    const ReadItem read = readers().value(reader.keyword());
-    if (!read)
+    const auto kind = kinds().constFind(reader.keyword());
+    if (kind == kinds().constEnd())
         return std::nullopt;
-    const Any state = read(reader);
-    return reader.isValid() ? std::optional(state) : std::nullopt;
+    const Any state = kind->read(reader);
+    if (!reader.isValid())
+        return std::nullopt;
+    if (unknown)
+        *unknown += unknownFields(*fields, *kind);
+    return state;
 }

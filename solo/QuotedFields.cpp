@@ -148,7 +148,7 @@ std::optional<QuotedFields> QuotedFields::parse(const QString &line)
             continue;
         }
         const std::optional<QString> value = scanner.value();
-        if (word.isEmpty() || !value)
+        if (word.isEmpty() || !value || fields.m_named.contains(word))
             return std::nullopt;
         fields.m_named.insert(word, *value);
     }

@@ -14,7 +14,10 @@
 class QuotedFields
 {
 public:
-    /** Splits a line; nothing if a quotation mark is missing or an escape is malformed. */
+    /**
+     * Splits a line; nothing if a quotation mark is missing, an escape is malformed or a name is
+     * there twice.
+     */
     static std::optional<QuotedFields> parse(const QString &line);
 
     /** `text` in quotation marks. */
@@ -25,6 +28,9 @@ public:
 
     /** True if there is a field of this name. */
     bool has(const QString &name) const { return m_named.contains(name); }
+
+    /** The names of all named fields, in no order. */
+    QStringList names() const { return m_named.keys(); }
 
     /** The value of a named field, or a null string. */
     QString value(const QString &name) const { return m_named.value(name); }

@@ -3,6 +3,9 @@
 #include "ItemRecords.h"
 #include "SoloTestMain.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+
 /** Files: what is written, what is read, and what is said about what cannot be. */
 class DocumentFileTest : public QObject
 {
@@ -18,9 +21,11 @@ private Q_SLOTS:
     void aFileHasUpToTenThousandPages();
     void saysWhyAFileCannotBeOpened_data();
     void saysWhyAFileCannotBeOpened();
+    void saysThatANameIsNotUtf8();
     void aFailedSaveLeavesTheOldFile_data();
     void aFailedSaveLeavesTheOldFile();
     void aFullDiskLeavesTheOldFile();
+    void aLongNameIsSavedOrRefusedWithAReason();
     void readingSurvivesAnyBytes();
 
 private:
@@ -109,6 +114,15 @@ void DocumentFileTest::saysWhatIsWrongAndOffersTheRest_data()
     QByteArray latin = twoNotesFile;
     latin.replace("tonquill_bitmap 3 4 22", "tonquill_bitmap 3 4 \xe9");
     QTest::newRow("not UTF-8") << latin << QList<int>{5, 5} << 1;
+    QByteArray unknownName = twoNotesFile;
+    unknownName.replace("3 4 22", "3 4 22 opacity=50");
+    QTest::newRow("a named field that is not known") << unknownName << QList<int>{5} << 2;
+    QByteArray oneMore = twoNotesFile;
+    oneMore.replace("1 2 19", "1 2 19 7");
+    QTest::newRow("one field too many") << oneMore << QList<int>{4} << 2;
+    QByteArray twice = twoNotesFile;
+    twice.replace("1 2 19", "1 2 19 inverted=1 inverted=0");
+    QTest::newRow("a named field that is there twice") << twice << QList<int>{4} << 1;
     QTest::newRow("a block of a host without its end")
         << QByteArray("tonquill_pagecount 1\ntonquill_bitmap 19 1 2 0\n"
                       "tonquill_textblock_begin 1 2 30 40\nverse\n")
@@ -172,6 +186,13 @@ void DocumentFileTest::saysWhyAFileCannotBeOpened_data()
     QVERIFY(other.open(QIODevice::WriteOnly));
     other.write("%PDF-1.4\n");
     QTest::newRow("another kind of file") << other.fileName();
+    const QString pipe = m_folder.filePath("pipe.tonquill");
+    QCOMPARE(mkfifo(QFile::encodeName(pipe), S_IRUSR | S_IWUSR), 0);
+    QTest::newRow("a pipe") << pipe;
+    const QString link = m_folder.filePath("link.tonquill");
+    QVERIFY(QFile::link(pipe, link));
+    QTest::newRow("a link to a pipe") << link;
+    QTest::newRow("an endless device") << "/dev/zero";
 }
 
 void DocumentFileTest::saysWhyAFileCannotBeOpened()
@@ -180,6 +201,19 @@ void DocumentFileTest::saysWhyAFileCannotBeOpened()
     const DocumentFile::Reading reading = DocumentFile::load(path, a4);
     QVERIFY(!reading.isDocument);
     QVERIFY(!reading.problemText().isEmpty());
+}
+
+void DocumentFileTest::saysThatANameIsNotUtf8()
+{
+    const QByteArray name = QFile::encodeName(m_folder.path()) + "/caf\xe9.tonquill";
+    QFile file;
+    const int descriptor = open(name, O_CREAT | O_WRONLY, S_IRUSR);
+    QVERIFY(file.open(descriptor, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle));
+    file.write(twoNotesFile);
+    file.close();
+    const DocumentFile::Reading reading = DocumentFile::load(QFile::decodeName(name), a4);
+    QVERIFY(!reading.isDocument);
+    QVERIFY(reading.problemText().contains("UTF-8"));
 }
 
 void DocumentFileTest::aFailedSaveLeavesTheOldFile_data()
@@ -215,6 +249,18 @@ void DocumentFileTest::aFullDiskLeavesTheOldFile()
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), twoNotesFile);
     QCOMPARE(QDir(m_folder.path()).entryList({"kept*"}).size(), 1);
+}
+
+/** 255 bytes are the longest name; a file system may need some of them for its own. */
+void DocumentFileTest::aLongNameIsSavedOrRefusedWithAReason()
+{
+    const QString suffix = ".tonquill";
+    for (const int length : {240, 249, 255, 256}) {
+        const QString path = m_folder.filePath(QString(length - suffix.size(), u'n') + suffix);
+        const QString error = DocumentFile::save(path, twoNotes());
+        QCOMPARE(error.isEmpty(), QFileInfo::exists(path));
+        QVERIFY(length > 240 || error.isEmpty());
+    }
 }
 
 void DocumentFileTest::readingSurvivesAnyBytes()
