@@ -1,8 +1,12 @@
 #include "SingleInstance.h"
 
+#include <QCryptographicHash>
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QLocalSocket>
+#include <QStandardPaths>
 #include <QThread>
 #include <QUrl>
 
@@ -12,16 +16,34 @@ constexpr int answerTime = 5000; // milliseconds
 constexpr int retryPause = 20;   // milliseconds
 const QByteArray answer = QByteArrayLiteral("ok\n");
 
-QString inside(const QString &folder, const QString &name)
+/**
+ * Bytes of the longest folder for a socket. Its whole path may have 107, and while Qt makes it, it
+ * is in a folder of its own: "/XXXXXX/s".
+ */
+constexpr qsizetype longestFolder = 107 - 9;
+
+/** Where all starts of the user's meet; each of them comes to the same answer. */
+QString meetingFolder(const QString &folder)
 {
     QDir().mkpath(folder);
-    return QDir(folder).filePath(name);
+    if (QFile::encodeName(folder).size() <= longestFolder && QFileInfo(folder).isDir() &&
+        QFileInfo(folder).isWritable())
+        return folder;
+    constexpr qsizetype enough = 8;
+    const QByteArray mark =
+        QCryptographicHash::hash(folder.toUtf8(), QCryptographicHash::Sha1).toHex().first(enough);
+    const QString other =
+        QDir(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation))
+            .filePath(QStringLiteral("tonquill-solo-") + QString::fromLatin1(mark));
+    QDir().mkpath(other);
+    return other;
 }
 } // namespace
 
 SingleInstance::SingleInstance(const QString &folder)
-    : m_socketPath(inside(folder, QStringLiteral("instance")))
-    , m_lock(inside(folder, QStringLiteral("instance.lock")))
+    : m_folder(meetingFolder(folder))
+    , m_socketPath(QDir(m_folder).filePath(QStringLiteral("instance")))
+    , m_lock(QDir(m_folder).filePath(QStringLiteral("instance.lock")))
 {
     // A lock is stale only when its process is gone, however old it is.
     m_lock.setStaleLockTime(0);
@@ -30,12 +52,25 @@ SingleInstance::SingleInstance(const QString &folder)
 
 bool SingleInstance::begin()
 {
-    if (!m_lock.tryLock(0))
-        return m_lock.error() != QLockFile::LockFailedError;
+    if (!m_lock.tryLock(0)) {
+        // On a full disk, say, there may be a first program whose lock is not to be read.
+        if (m_lock.error() == QLockFile::LockFailedError || isAnotherListening())
+            return false;
+        m_problem =
+            tr("Nothing can be written to the folder %1.").arg(QDir::toNativeSeparators(m_folder));
+    }
     QLocalServer::removeServer(m_socketPath);
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
-    m_server.listen(m_socketPath);
+    if (!m_server.listen(m_socketPath) && m_problem.isEmpty())
+        m_problem = m_server.errorString();
     return true;
+}
+
+bool SingleInstance::isAnotherListening() const
+{
+    QLocalSocket probe;
+    probe.connectToServer(m_socketPath);
+    return probe.waitForConnected(answerTime);
 }
 
 bool SingleInstance::handOver(const QString &path) const
