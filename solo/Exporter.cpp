@@ -2,6 +2,7 @@
 
 #include "AtomicFile.h"
 #include "DocumentSnapshot.h"
+#include "FileStamp.h"
 #include "PagePicture.h"
 #include "PagePrinter.h"
 #include "PrinterPaper.h"
@@ -64,6 +65,8 @@ QString Exporter::write(const QString &path, const ExportOptions &options)
         return tr("there is no page %1, only 1 to %2").arg(options.page).arg(m_window.pageCount);
     if (options.dotsPerInch < fewestDots || options.dotsPerInch > mostDots)
         return tr("the resolution must be between %1 and %2").arg(fewestDots).arg(mostDots);
+    if (FileStamp::at(path).isSameFileAs(FileStamp::at(options.document)))
+        return tr("%1: this is the document itself").arg(path);
     const Contents made = contents(kind, options);
     const QString error = made.bytes.isEmpty() ? made.error : AtomicFile::write(path, made.bytes);
     return error.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(path, error);

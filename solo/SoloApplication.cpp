@@ -141,7 +141,7 @@ int SoloApplication::exportFile(const SoloArguments &arguments)
     reading.document.restore(window);
     DocumentSnapshot::setPrinterPaper(window);
     const QString error = Exporter(window).write(
-        arguments.exportTo, ExportOptions{arguments.page, arguments.dotsPerInch});
+        arguments.exportTo, ExportOptions{arguments.page, arguments.dotsPerInch, arguments.file});
     return error.isEmpty() ? 0 : fail(error);
 }
 

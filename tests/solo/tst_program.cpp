@@ -6,6 +6,8 @@
 #include <QProcess>
 #include <QSettings>
 
+#include <sys/stat.h>
+
 /** The program from its command line: export without a display, and a second start. */
 class ProgramTest : public QObject
 {
@@ -70,9 +72,13 @@ void ProgramTest::initTestCase()
                "tonquill_grandstaff 60 100 0 0 500 120\ntonquill_bitmap 200 120 19\n"
                "tonquill_text 80 60 text=\"é ♭\" font=\"Arial\" size=12 color=#ff0000\n"
                "tonquill-end\n");
+    file.close();
     QFile damaged(path("damaged.tonquill"));
     QVERIFY(damaged.open(QIODevice::WriteOnly));
     damaged.write("tonquill-document 1\nrubbish\nmore rubbish\n");
+    QCOMPARE(mkfifo(QFile::encodeName(path("pipe.pdf")), S_IRUSR | S_IWUSR), 0);
+    QVERIFY(file.copy(path("itself.pdf")));
+    QVERIFY(QFile::link(path("itself.pdf"), path("link.pdf")));
 }
 
 void ProgramTest::cleanup()
@@ -135,6 +141,19 @@ void ProgramTest::saysInOneLineWhyItCannotExport_data()
         << QStringList{"--export", path("none/a.png"), document} << QByteArray("a.png");
     QTest::newRow("not an ordinary file")
         << QStringList{"--export", path("."), document} << QByteArray("must end");
+    QTest::newRow("a pipe") << QStringList{"--export", path("a.pdf"), path("pipe.pdf")}
+                            << QByteArray("not an ordinary file");
+    QTest::newRow("a device") << QStringList{"--export", path("a.pdf"), "/dev/null"}
+                              << QByteArray("not an ordinary file");
+    QTest::newRow("a folder") << QStringList{"--export", path("a.pdf"), path(".")}
+                              << QByteArray("folder");
+    QTest::newRow("to a pipe") << QStringList{"--export", path("pipe.pdf"), document}
+                               << QByteArray("not an ordinary file");
+    QTest::newRow("onto itself") << QStringList{"--export", path("itself.pdf"), path("itself.pdf")}
+                                 << QByteArray("the document itself");
+    QTest::newRow("onto itself, by a link")
+        << QStringList{"--export", path("link.pdf"), path("itself.pdf")}
+        << QByteArray("the document itself");
     QTest::newRow("no display") << QStringList{document} << QByteArray("display");
 }
 
