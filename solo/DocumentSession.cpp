@@ -1,6 +1,7 @@
 #include "DocumentSession.h"
 
 #include "DocumentFile.h"
+#include "OrdinaryFile.h"
 #include "TonquillMainWin.h"
 
 #include <QElapsedTimer>
@@ -35,9 +36,24 @@ DocumentSession::DocumentSession(TonquillMainWin &window, const QString &folder)
 
 QString DocumentSession::name() const
 {
-    if (!m_path.isEmpty())
-        return QFileInfo(m_path).fileName();
-    return m_suggestedName.isEmpty() ? tr("Untitled") : m_suggestedName;
+    return origin().isEmpty() ? tr("Untitled") : QFileInfo(origin()).fileName();
+}
+
+bool DocumentSession::comesFrom(const QString &path) const
+{
+    return origin() == path || FileStamp::at(path).isSameFileAs(FileStamp::at(origin()));
+}
+
+FileStamp::Change DocumentSession::fileChange()
+{
+    m_seenFile = FileStamp::at(m_path);
+    return m_path.isEmpty() ? FileStamp::Change::None : m_file.changeAt(m_path);
+}
+
+FileStamp::Change DocumentSession::newFileChange()
+{
+    const bool isSeen = FileStamp::at(m_path).looksLike(m_seenFile);
+    return isSeen ? FileStamp::Change::None : fileChange();
 }
 
 bool DocumentSession::isModified() const
@@ -45,8 +61,10 @@ bool DocumentSession::isModified() const
     return m_differsFromFile || m_edits.document() != m_saved;
 }
 
-void DocumentSession::begin(const DocumentSnapshot &document)
+void DocumentSession::begin(const DocumentSnapshot &document, bool differsFromFile)
 {
+    m_differsFromFile = differsFromFile;
+    m_seenFile = FileStamp::at(m_path);
     document.restore(m_window);
     DocumentSnapshot::setPrinterPaper(m_window);
     m_window.view()->verticalScrollBar()->setValue(0);
@@ -59,45 +77,77 @@ void DocumentSession::begin(const DocumentSnapshot &document)
 
 void DocumentSession::makeNew()
 {
-    m_path.clear();
-    m_suggestedName.clear();
-    m_differsFromFile = false;
-    begin(m_empty);
+    showUnnamed(m_empty, QString(), false);
 }
 
-void DocumentSession::show(const DocumentSnapshot &document, const QString &path, bool isWhole)
+void DocumentSession::show(const DocumentSnapshot &document, const QString &path,
+                           const FileStamp &file)
 {
     m_path = path;
-    m_differsFromFile = !isWhole;
-    begin(document);
+    m_suggestion.clear();
+    m_file = file;
+    begin(document, false);
 }
 
-void DocumentSession::showCopy(const DocumentSnapshot &document, const QString &name)
+void DocumentSession::showUnnamed(const DocumentSnapshot &document, const QString &origin,
+                                  bool isModified)
 {
     m_path.clear();
-    m_suggestedName = name;
-    m_differsFromFile = false;
-    begin(document);
+    m_suggestion = origin;
+    m_file = FileStamp();
+    begin(document, isModified);
 }
 
 void DocumentSession::showRecovered(const RecoveryJournal::Found &found)
 {
-    show(found.document, found.path, false);
+    m_journal.takeOver();
+    if (!found.problems.isEmpty()) {
+        showUnnamed(found.document, found.path, true);
+        return;
+    }
+    m_path = found.path;
+    m_suggestion.clear();
+    m_file = found.contents.isEmpty()
+                 ? FileStamp::of(found.path, OrdinaryFile::read(found.path).bytes)
+                 : FileStamp::ofContents(found.contents);
+    begin(found.document, true);
+}
+
+void DocumentSession::markUnsaved()
+{
+    m_differsFromFile = true;
+    scheduleJournal();
+    Q_EMIT changed();
 }
 
 QString DocumentSession::saveAs(const QString &path)
 {
     m_edits.check();
-    const QString error = DocumentFile::save(path, m_edits.document());
+    const QString error = DocumentFile::save(path, m_edits.document(), &m_file);
     if (!error.isEmpty())
         return error;
     m_path = path;
+    m_suggestion.clear();
+    m_seenFile = m_file;
     m_saved = m_edits.document();
     m_differsFromFile = false;
     m_journal.discard();
     m_journalled = DocumentSnapshot();
     Q_EMIT changed();
     return QString();
+}
+
+void DocumentSession::tryJournal()
+{
+    tellOfJournal(m_journal.prepare());
+}
+
+void DocumentSession::tellOfJournal(const QString &error)
+{
+    const bool isNew = !m_isJournalTroubleTold;
+    m_isJournalTroubleTold = !error.isEmpty();
+    if (m_isJournalTroubleTold && isNew)
+        Q_EMIT journalFailed(error);
 }
 
 void DocumentSession::close()
@@ -115,6 +165,10 @@ void DocumentSession::scheduleJournal()
 
 void DocumentSession::writeJournal()
 {
+    if (m_journal.isUndecided()) {
+        scheduleJournal();
+        return;
+    }
     QElapsedTimer cost;
     cost.start();
     // Not only finished edits: a long gesture must not be lost either.
@@ -122,8 +176,10 @@ void DocumentSession::writeJournal()
     if (now == m_saved && !m_differsFromFile) {
         m_journal.discard();
         m_journalled = DocumentSnapshot();
-    } else if (now != m_journalled && m_journal.write(now, m_path)) {
-        m_journalled = now;
+    } else if (now != m_journalled) {
+        if (m_journal.write(now, m_path, m_file.contents))
+            m_journalled = now;
+        tellOfJournal(m_journal.error());
     }
     m_journalDue.setInterval(
         qBound(shortestDelay, int(cost.elapsed()) * delayPerCost, longestDelay));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "EditWatcher.h"
+#include "FileStamp.h"
 #include "RecoveryJournal.h"
 
 #include <QObject>
@@ -26,6 +27,18 @@ public:
     /** The file, or empty for a document that has none yet. */
     QString path() const { return m_path; }
 
+    /** Where an unnamed document comes from: a path or a mere name. Otherwise its file. */
+    QString origin() const { return m_path.isEmpty() ? m_suggestion : m_path; }
+
+    /** True if what is shown comes from this file, by whatever name it goes. */
+    bool comesFrom(const QString &path) const;
+
+    /** What other programs have made of the file since it was read or saved. */
+    FileStamp::Change fileChange();
+
+    /** The same, but only if nobody has asked since it happened. */
+    FileStamp::Change newFileChange();
+
     /** The file's name, or what an unnamed document is called. */
     QString name() const;
 
@@ -38,17 +51,26 @@ public:
     /** An empty document without a file. */
     void makeNew();
 
-    /** Shows what was read from `path`. With problems it differs from the file. */
-    void show(const DocumentSnapshot &document, const QString &path, bool isWhole);
+    /** Shows all that was read from the file `path`, which is this one. */
+    void show(const DocumentSnapshot &document, const QString &path, const FileStamp &file);
 
-    /** Shows a copy of a document, which has no file yet and is called `name`. */
-    void showCopy(const DocumentSnapshot &document, const QString &name);
+    /**
+     * Shows a document that has no file yet, so that none is replaced by it unasked. `origin` is
+     * the name that is suggested for it, or the path of what it was read from.
+     */
+    void showUnnamed(const DocumentSnapshot &document, const QString &origin, bool isModified);
 
     /** Shows what a former run left behind; it counts as unsaved. */
     void showRecovered(const RecoveryJournal::Found &found);
 
+    /** The file is no longer what the window shows, whatever is edited. */
+    void markUnsaved();
+
     /** Saves to `path`, which becomes the document's file. The answer is empty, or an error. */
     QString saveAs(const QString &path);
+
+    /** Finds out whether unsaved changes can be kept; if not, journalFailed() is emitted. */
+    void tryJournal();
 
     /** Ends the session: nothing is kept for recovery. */
     void close();
@@ -57,8 +79,12 @@ Q_SIGNALS:
     /** The file, its name or whether it is modified may be another. */
     void changed();
 
+    /** Unsaved changes cannot be kept for recovery. Told once until they can be kept again. */
+    void journalFailed(QString reason);
+
 private:
-    void begin(const DocumentSnapshot &document);
+    void begin(const DocumentSnapshot &document, bool differsFromFile);
+    void tellOfJournal(const QString &error);
     void scheduleJournal();
     void writeJournal();
 
@@ -67,10 +93,13 @@ private:
     RecoveryJournal m_journal;
     QTimer m_journalDue;
     QString m_path;
-    QString m_suggestedName;
+    QString m_suggestion;
+    FileStamp m_file;         ///< as it was read or saved
+    FileStamp m_seenFile;     ///< as it was when it was last looked at
     DocumentSnapshot m_empty; ///< the document of a new window
     DocumentSnapshot m_saved; ///< what the file holds
     DocumentSnapshot m_journalled;
     bool m_differsFromFile = false; ///< whatever is edited: it was recovered, or read in part
+    bool m_isJournalTroubleTold = false;
     bool m_closed = false;
 };

@@ -2,13 +2,15 @@
 
 #include "DocumentSession.h"
 #include "Exporter.h"
+#include "OutsideChange.h"
 #include "PlainMessageBox.h"
+#include "RecoveryOffer.h"
+#include "SaveDialog.h"
 #include "TonquillMainWin.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QLocale>
 #include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
@@ -24,12 +26,12 @@ QString recentKey()
 
 QString documentSuffix()
 {
-    return QStringLiteral(".tonquill");
+    return QStringLiteral("tonquill");
 }
 
-QString withSuffix(const QString &path, const QString &suffix)
+QString documentFilter()
 {
-    return path.isEmpty() || !QFileInfo(path).suffix().isEmpty() ? path : path + suffix;
+    return FileCommands::tr("Tonquill documents (*.tonquill);;All files (*)");
 }
 } // namespace
 
@@ -79,40 +81,58 @@ void FileCommands::makeNew()
 void FileCommands::open()
 {
     const QString folder = QFileInfo(suggestedPath(documentSuffix())).path();
-    const QString path = QFileDialog::getOpenFileName(
-        &m_window, tr("Open"), folder, tr("Tonquill documents (*.tonquill);;All files (*)"));
+    const QString path =
+        QFileDialog::getOpenFileName(&m_window, tr("Open"), folder, documentFilter());
     if (!path.isEmpty())
         openFile(path);
 }
 
 void FileCommands::openFile(const QString &path)
 {
-    const DocumentFile::Reading reading = DocumentFile::load(path, m_session.defaultPaper());
-    if (!mayShow(path, reading) || !mayLeave())
+    DocumentFile::Reading reading = DocumentFile::load(path, m_session.defaultPaper());
+    if (!isDocument(path, reading) || !mayLeave())
         return;
-    m_session.show(reading.document, QFileInfo(path).absoluteFilePath(),
-                   reading.problems.isEmpty());
-    remember(m_session.path());
+    // The unsaved changes may have been saved to this very file.
+    if (reading.stamp.changeAt(path) != FileStamp::Change::None)
+        reading = DocumentFile::load(path, m_session.defaultPaper());
+    showFile(path, reading);
+}
+
+void FileCommands::showFile(const QString &path, const DocumentFile::Reading &reading)
+{
+    if (!isDocument(path, reading) || !mayShow(path, reading))
+        return;
+    const QString file = QFileInfo(path).absoluteFilePath();
+    const bool isWhole = reading.problems.isEmpty();
+    if (isWhole && !reading.isOfHost)
+        m_session.show(reading.document, file, reading.stamp);
+    else
+        m_session.showUnnamed(reading.document, file, !isWhole);
+    remember(file);
 }
 
 void FileCommands::openCopy(const QString &path)
 {
     const DocumentFile::Reading reading = DocumentFile::load(path, m_session.defaultPaper());
-    if (mayShow(path, reading))
-        m_session.showCopy(reading.document, QFileInfo(path).fileName());
+    if (isDocument(path, reading) && mayShow(path, reading))
+        m_session.showUnnamed(reading.document, QFileInfo(path).fileName(), false);
 }
 
-/** Tells what is wrong with a file. What can be read of it is offered; nothing is left out unsaid.
- */
+/** Says why there is nothing to show of a file, if so. */
+bool FileCommands::isDocument(const QString &path, const DocumentFile::Reading &reading)
+{
+    if (!reading.isDocument)
+        showError(tr("“%1” cannot be opened.").arg(QDir::toNativeSeparators(path)),
+                  reading.problemText());
+    return reading.isDocument;
+}
+
+/** Offers what can be read of a document; nothing is left out unsaid. */
 bool FileCommands::mayShow(const QString &path, const DocumentFile::Reading &reading)
 {
     if (reading.problems.isEmpty())
         return true;
     const QString shown = QDir::toNativeSeparators(path);
-    if (!reading.isDocument) {
-        showError(tr("“%1” cannot be opened.").arg(shown), reading.problemText());
-        return false;
-    }
     const QString details =
         tr("%1\n\nShow the rest, %2 items? The file stays as it is until "
            "you save.")
@@ -127,15 +147,37 @@ bool FileCommands::mayShow(const QString &path, const DocumentFile::Reading &rea
 
 bool FileCommands::save()
 {
-    return m_session.path().isEmpty() ? saveAs() : saveTo(m_session.path());
+    using Answer = OutsideChange::Answer;
+    if (m_session.path().isEmpty())
+        return saveAs();
+    const FileStamp::Change change = m_session.fileChange();
+    const Answer answer = change == FileStamp::Change::None
+                              ? Answer::Overwrite
+                              : OutsideChange(m_window, m_session, change).askBeforeSaving();
+    if (answer == Answer::Reload)
+        showFile(m_session.path(), DocumentFile::load(m_session.path(), m_session.defaultPaper()));
+    return (answer == Answer::Overwrite && saveTo(m_session.path())) ||
+           (answer == Answer::SaveElsewhere && saveAs());
 }
 
 bool FileCommands::saveAs()
 {
-    const QString path =
-        QFileDialog::getSaveFileName(&m_window, tr("Save As"), suggestedPath(documentSuffix()),
-                                     tr("Tonquill documents (*.tonquill);;All files (*)"));
-    return !path.isEmpty() && saveTo(withSuffix(path, documentSuffix()));
+    const QString path = SaveDialog(tr("Save As"), documentFilter(), documentSuffix())
+                             .ask(m_window, suggestedPath(documentSuffix()));
+    return !path.isEmpty() && saveTo(path);
+}
+
+void FileCommands::lookForOutsideChange()
+{
+    const FileStamp::Change change = m_session.newFileChange();
+    if (change == FileStamp::Change::None)
+        return;
+    m_session.edits().check();
+    const QString path = m_session.path();
+    if (OutsideChange(m_window, m_session, change).tellAndOfferReload())
+        showFile(path, DocumentFile::load(path, m_session.defaultPaper()));
+    else
+        m_session.markUnsaved();
 }
 
 bool FileCommands::saveTo(const QString &path)
@@ -153,45 +195,29 @@ bool FileCommands::saveTo(const QString &path)
 /** Beside the document's file; a document without one belongs with the user's documents. */
 QString FileCommands::suggestedPath(const QString &suffix) const
 {
-    const QString path = m_session.path();
-    const QString folder = path.isEmpty()
-                               ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-                               : QFileInfo(path).path();
+    const QFileInfo origin(m_session.origin());
+    const QString folder =
+        origin.isAbsolute() ? origin.path()
+                            : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const QString existing = QDir(folder).exists() ? folder : QDir::homePath();
-    return QDir(existing).filePath(QFileInfo(m_session.name()).completeBaseName() + suffix);
+    return QDir(existing).filePath(QFileInfo(m_session.name()).completeBaseName() + u'.' + suffix);
 }
 
 void FileCommands::exportPdf()
 {
-    const QString path = QFileDialog::getSaveFileName(
-        &m_window, tr("Export as PDF"), suggestedPath(QStringLiteral(".pdf")), tr("PDF (*.pdf)"));
+    const QString suffix = QStringLiteral("pdf");
+    const QString path = SaveDialog(tr("Export as PDF"), tr("PDF (*.pdf)"), suffix)
+                             .ask(m_window, suggestedPath(suffix));
     if (path.isEmpty())
         return;
-    const QString error =
-        Exporter(m_window).write(withSuffix(path, QStringLiteral(".pdf")), ExportOptions());
+    ExportOptions options;
+    options.document = m_session.origin();
+    const QString error = Exporter(m_window).write(path, options);
     if (!error.isEmpty())
         showError(tr("The PDF could not be written."), error);
 }
 
-void FileCommands::offerRecovery()
+bool FileCommands::offerRecovery()
 {
-    const auto found = m_session.journal().find(m_session.defaultPaper());
-    if (!found)
-        return;
-    const QString name = found->path.isEmpty() ? tr("a document without a name")
-                                               : QDir::toNativeSeparators(found->path);
-    const QString details = tr("%1, %2.\nThe file itself stays as it is until you save.")
-                                .arg(name, QLocale().toString(found->time, QLocale::ShortFormat));
-    PlainMessageBox box(QMessageBox::Question,
-                        tr("Tonquill ended unexpectedly. Recover the unsaved changes?"), details,
-                        QMessageBox::NoButton, &m_window);
-    QPushButton *recover = box.addButton(tr("Recover"), QMessageBox::AcceptRole);
-    box.addButton(tr("Discard"), QMessageBox::DestructiveRole);
-    box.setDefaultButton(recover);
-    box.setEscapeButton(recover);
-    box.exec();
-    if (box.clickedButton() == recover)
-        m_session.showRecovered(*found);
-    else
-        m_session.journal().discard();
+    return RecoveryOffer(m_window, m_session).make();
 }

@@ -19,14 +19,17 @@ public:
     /** Files that were opened or saved, the latest first. */
     static QStringList recentFiles();
 
-    /** Offers what a former run left behind, if anything. */
-    void offerRecovery();
+    /** Offers what a former run left behind, if anything; true if it is shown now. */
+    bool offerRecovery();
 
     /** Opens a copy of a file, to try things out on. */
     void openCopy(const QString &path);
 
     /** Asks what to do with unsaved changes; false if the user rather goes on. */
     bool mayLeave();
+
+    /** Tells if another program has changed the document's file, once for each change. */
+    void lookForOutsideChange();
 
 public Q_SLOTS:
     void makeNew();
@@ -40,6 +43,8 @@ public Q_SLOTS:
 
 private:
     bool saveTo(const QString &path);
+    void showFile(const QString &path, const DocumentFile::Reading &reading);
+    bool isDocument(const QString &path, const DocumentFile::Reading &reading);
     bool mayShow(const QString &path, const DocumentFile::Reading &reading);
     QString suggestedPath(const QString &suffix) const;
     void showError(const QString &text, const QString &details);

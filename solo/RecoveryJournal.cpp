@@ -2,6 +2,7 @@
 
 #include "AtomicFile.h"
 #include "DocumentFile.h"
+#include "OrdinaryFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,34 +12,77 @@
 namespace
 {
 const QByteArray header = QByteArrayLiteral("tonquill-recovery ");
+
+constexpr QFile::Permissions ownersOnly = QFile::ReadOwner | QFile::WriteOwner;
+constexpr QFile::Permissions ownersFolder = ownersOnly | QFile::ExeOwner;
 } // namespace
 
 RecoveryJournal::RecoveryJournal(const QString &folder)
     : m_file(QDir(folder).filePath(QStringLiteral("recovery.tonquill")))
+    , m_isUndecided(QFileInfo::exists(m_file))
 {}
 
-bool RecoveryJournal::write(const DocumentSnapshot &document, const QString &path)
+QString RecoveryJournal::prepare() const
 {
-    QDir().mkpath(QFileInfo(m_file).path());
-    return AtomicFile::write(m_file, header + QUrl::toPercentEncoding(path) + '\n' +
-                                         DocumentFile::format(document))
-        .isEmpty();
+    const QString folder = QFileInfo(m_file).path();
+    QDir().mkpath(QFileInfo(folder).path());
+    QDir().mkdir(folder, ownersFolder);
+    QFile::setPermissions(folder, ownersFolder);
+    const QFileInfo made(folder);
+    return made.isDir() && made.isWritable() ? QString()
+                                             : tr("Nothing can be written to the folder %1.")
+                                                   .arg(QDir::toNativeSeparators(folder));
+}
+
+bool RecoveryJournal::write(const DocumentSnapshot &document, const QString &path,
+                            const QByteArray &contents)
+{
+    if (m_isUndecided)
+        return false;
+    m_error = prepare();
+    if (!m_error.isEmpty())
+        return false;
+    m_error = AtomicFile::write(m_file, header + QUrl::toPercentEncoding(path) + ' ' + contents +
+                                            '\n' + DocumentFile::format(document));
+    QFile::setPermissions(m_file, ownersOnly);
+    return m_error.isEmpty();
 }
 
 std::optional<RecoveryJournal::Found> RecoveryJournal::find(const Paper &defaultPaper) const
 {
-    QFile file(m_file);
-    if (!file.open(QIODevice::ReadOnly))
+    const QByteArray bytes = OrdinaryFile::read(m_file).bytes;
+    const qsizetype firstEnd = bytes.indexOf('\n') + 1;
+    const DocumentFile::Reading reading = DocumentFile::parse(bytes.sliced(firstEnd), defaultPaper);
+    if (!bytes.startsWith(header) || !reading.isDocument)
         return std::nullopt;
-    const QByteArray first = file.readLine();
-    const DocumentFile::Reading reading = DocumentFile::parse(file.readAll(), defaultPaper);
-    if (!first.startsWith(header) || !reading.isDocument)
-        return std::nullopt;
-    return Found{QUrl::fromPercentEncoding(first.sliced(header.size()).trimmed()),
-                 QFileInfo(m_file).lastModified(), reading.document};
+    const QByteArrayList fields = bytes.first(firstEnd).sliced(header.size()).trimmed().split(' ');
+    return Found{QUrl::fromPercentEncoding(fields.value(0)), QFileInfo(m_file).lastModified(),
+                 reading.document, fields.value(1), reading.problemText()};
+}
+
+QString RecoveryJournal::keepCopy() const
+{
+    const OrdinaryFile::Contents contents = OrdinaryFile::read(m_file);
+    if (!contents.error.isEmpty())
+        return QString();
+    const QFileInfo info(m_file);
+    const QString begin =
+        info.path() + info.lastModified().toString(QStringLiteral("'/recovery-'yyyyMMdd-HHmmss"));
+    QString copy = begin + QStringLiteral(".tonquill");
+    for (int i = 2; QFileInfo::exists(copy); ++i) {
+        // A start that was cut short has made it already.
+        if (OrdinaryFile::read(copy).bytes == contents.bytes)
+            return copy;
+        copy = QStringLiteral("%1-%2.tonquill").arg(begin).arg(i);
+    }
+    if (!AtomicFile::write(copy, contents.bytes).isEmpty())
+        return QString();
+    QFile::setPermissions(copy, ownersOnly);
+    return copy;
 }
 
 void RecoveryJournal::discard()
 {
-    QFile::remove(m_file);
+    if (!m_isUndecided)
+        QFile::remove(m_file);
 }

@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QPushButton>
@@ -156,22 +157,18 @@ int SoloApplication::runWindow(const SoloArguments &arguments)
         return openAsEditorOfHost();
 
     SoloWindow solo(dataFolder());
-    const QString hostError = solo.startHost();
+    Beginning wanted{file, isFirstStart() ? arguments.example : QString(), {}};
+    if (!instance.problem().isEmpty())
+        wanted.problems.append(
+            {tr("Another start of Tonquill will not find this window."), instance.problem()});
+    if (const QString error = solo.startHost(); !error.isEmpty())
+        wanted.problems.append(
+            {tr("The toolbar's undo and redo cannot be used; the menu's can."), error});
     QObject::connect(&instance, &SingleInstance::fileHandedOver, &solo, &SoloWindow::openLater);
     QObject::connect(&solo, &SoloWindow::finished, [] { QCoreApplication::exit(0); });
     // Questions wait until the window is in its place, for they are asked in its middle.
-    QObject::connect(&solo, &SoloWindow::appeared, &solo, [&solo, &arguments, &file, &hostError] {
-        if (!hostError.isEmpty())
-            PlainMessageBox(QMessageBox::Warning,
-                            tr("The toolbar's undo and redo cannot be used; the menu's can."),
-                            hostError, QMessageBox::Ok, &solo.window())
-                .exec();
-        const bool first = isFirstStart();
-        solo.files().offerRecovery();
-        if (!file.isEmpty())
-            solo.files().openFile(file);
-        else if (first && !arguments.example.isEmpty() && !solo.session().isModified())
-            solo.files().openCopy(arguments.example);
+    QObject::connect(&solo, &SoloWindow::appeared, &solo, [&solo, wanted] {
+        solo.errands().add([&solo, wanted] { solo.begin(wanted); });
     });
     solo.show();
     return QCoreApplication::exec();
@@ -179,8 +176,15 @@ int SoloApplication::runWindow(const SoloArguments &arguments)
 
 int SoloApplication::handOver(const SingleInstance &instance, const QString &path)
 {
-    return instance.handOver(path) ? 0
-                                   : fail(tr("another Tonquill is running and does not answer"));
+    if (instance.handOver(path))
+        return 0;
+    const QString text = tr("Another Tonquill is running and does not answer.");
+    const QString details = path.isEmpty()
+                                ? QString()
+                                : tr("It may open “%1” later.").arg(QDir::toNativeSeparators(path));
+    const int status = fail(text);
+    PlainMessageBox(QMessageBox::Warning, text, details, QMessageBox::Ok).exec();
+    return status;
 }
 
 /** A host that is there already keeps its name; this program can be its editor, or nothing. */

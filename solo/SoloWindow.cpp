@@ -1,11 +1,11 @@
 #include "SoloWindow.h"
 
 #include "MenuBar.h"
+#include "PlainMessageBox.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QEvent>
-#include <QMessageBox>
 
 #include <utility>
 
@@ -38,6 +38,7 @@ SoloWindow::SoloWindow(const QString &folder)
     connect(&m_host, &BuiltInHost::raiseRequested, this, &SoloWindow::show);
     connect(&m_session, &DocumentSession::changed, this, &SoloWindow::refreshTitle);
     connect(&m_session.edits(), &EditWatcher::documentChanged, &m_pages, &PageControls::refresh);
+    connect(&m_session, &DocumentSession::journalFailed, this, &SoloWindow::onJournalFailed);
     refreshTitle();
 }
 
@@ -62,6 +63,31 @@ void SoloWindow::openLater(const QString &path)
     show();
     if (!path.isEmpty())
         m_errands.add([this, path] { m_files.openFile(path); });
+}
+
+void SoloWindow::begin(const Beginning &wanted)
+{
+    for (const auto &[text, details] : wanted.problems)
+        warn(text, details);
+    m_session.tryJournal();
+    const bool isRecovered = m_files.offerRecovery();
+    // What was just recovered is newer than its file, which is not opened over it.
+    if (!wanted.file.isEmpty() && !(isRecovered && m_session.comesFrom(wanted.file)))
+        m_files.openFile(wanted.file);
+    else if (wanted.file.isEmpty() && !wanted.example.isEmpty() && !isRecovered)
+        m_files.openCopy(wanted.example);
+}
+
+void SoloWindow::warn(const QString &text, const QString &details)
+{
+    PlainMessageBox(QMessageBox::Warning, text, details, QMessageBox::Ok, &m_window).exec();
+}
+
+void SoloWindow::onJournalFailed(const QString &reason)
+{
+    m_errands.add([this, reason] {
+        warn(tr("Unsaved changes cannot be kept for recovery after a crash."), reason);
+    });
 }
 
 void SoloWindow::undo()
@@ -113,6 +139,8 @@ bool SoloWindow::eventFilter(QObject *watched, QEvent *event)
         return false;
     if (event->type() == QEvent::Paint && !std::exchange(m_hasAppeared, true))
         QMetaObject::invokeMethod(this, &SoloWindow::appeared, Qt::QueuedConnection);
+    if (event->type() == QEvent::WindowActivate)
+        m_errands.add([this] { m_files.lookForOutsideChange(); });
     if (event->type() != QEvent::Close)
         return false;
     event->ignore();

@@ -10,7 +10,17 @@
 
 #include <QObject>
 
+#include <utility>
+
 class MenuBar;
+
+/** What a start of the program wants to have open. */
+struct Beginning
+{
+    QString file;
+    QString example;                             ///< to open a copy of, if there is no file
+    QList<std::pair<QString, QString>> problems; ///< to be said first, each with its reason
+};
 
 /**
  * The editor's window with everything round it that makes it a program of its own: a host, files,
@@ -40,6 +50,9 @@ public:
     /** Shows the window and opens a file, if one is given, as soon as nothing else goes on. */
     void openLater(const QString &path);
 
+    /** Offers what a former run left behind, then opens what is wanted. */
+    void begin(const Beginning &wanted);
+
     /** Asks about unsaved changes; then finished() is emitted, unless the user rather goes on. */
     void quit();
 
@@ -59,6 +72,8 @@ protected:
 private:
     void sayNothingLeft(const QString &title, const QString &text);
     void refreshTitle();
+    void warn(const QString &text, const QString &details);
+    void onJournalFailed(const QString &reason);
 
     ErrandQueue m_errands;
     TonquillMainWin m_window;

@@ -134,9 +134,15 @@ class SoloWithDocument(Program):
         programs = pathlib.Path(programs)
         layout = json.loads(desktop.run([programs / "tonquill-layoutdump", "--solo"]).stdout)
         self.file = desktop.folder / "song.tonquill"
-        self.file.write_text("".join([ONE_PAGE, *records]))
-        command = [programs / "tonquill-solo", self.file]
-        super().__init__(desktop, command, layout, self.title, "solo.log")
+        plain = desktop.folder / "song.txt"
+        plain.write_text("".join([ONE_PAGE, *records]))
+        command = [programs / "tonquill-solo", plain]
+        super().__init__(desktop, command, layout, "^song.txt", "solo.log")
+        # A host's plain document is saved as a file of the program's own, whose name is suggested.
+        desktop.key("ctrl+s")
+        desktop.window(self.process, "^Save As$")
+        desktop.key("Return")
+        desktop.window(self.process, self.title)
 
     def document(self):
         """The document as it was saved last."""

@@ -1,12 +1,13 @@
 """A later start of the program, whatever the first one is busy with."""
 
 import pathlib
+import signal
 import sys
 import unittest
 
 from desktop import Desktop
 from solo import BOX, NOTE, SAVE_AS, Solo, document
-from workbench import stop_after, tool
+from workbench import DEADLINE, stop_after, tool
 
 PROGRAMS = pathlib.Path(sys.argv.pop(1))
 
@@ -48,7 +49,7 @@ class SecondStartTest(unittest.TestCase):
 
     def test_waits_for_the_end_of_an_export(self):
         long, pdf = self.desktop.folder / "long.tonquill", self.desktop.folder / "long.pdf"
-        pages, per_page = 3000, 20
+        pages, per_page = 3000, 4
         glyphs = [(x * 30, page * 1100 + 200) for page in range(pages) for x in range(per_page)]
         long.write_text(document(*glyphs).replace("pagecount 1", f"pagecount {pages}"))
         solo = Solo(self.desktop, PROGRAMS, long, window=r"^long\.tonquill –")
@@ -61,6 +62,35 @@ class SecondStartTest(unittest.TestCase):
         solo.main(r"other\.tonquill")
         told = self.desktop.run([tool("pdfinfo"), pdf]).stdout
         self.assertIn(f"Pages:           {pages}\n", told)
+
+    def test_finds_the_first_start_wherever_the_home_is(self):
+        # A socket's path has room for 107 bytes.
+        long = self.desktop.folder / ("long" * 20) / "home"
+        long.mkdir(parents=True)
+        for home in ["/dev/null", str(long)]:
+            with self.subTest(home):
+                environment = {"environment": {"HOME": home}}
+                solo = Solo(self.desktop, PROGRAMS, self.song, window=".", **environment)
+                if home == "/dev/null":
+                    # Nothing can be kept there for recovery, which is said once.
+                    solo.titled(BOX)
+                    self.desktop.key("Return")
+                solo.edit(r"song\.tonquill")
+                self.desktop.key("ctrl+z")
+                solo.main(r"song\.tonquill")
+                self.assertEqual(solo.start_again(self.other, **environment), 0)
+                solo.main(r"other\.tonquill")
+                solo.kill()
+
+    def test_says_that_the_first_start_does_not_answer(self):
+        solo = Solo(self.desktop, PROGRAMS, self.song)
+        solo.process.send_signal(signal.SIGSTOP)
+        again = Solo(self.desktop, PROGRAMS, self.other, window=BOX)
+        self.desktop.key("Return")
+        self.assertEqual(again.process.wait(DEADLINE), 1)
+        solo.process.send_signal(signal.SIGCONT)
+        # What was asked for while it stood still is not lost.
+        solo.main(r"other\.tonquill")
 
 
 if __name__ == "__main__":

@@ -4,6 +4,8 @@
 #include <QElapsedTimer>
 #include <QProcess>
 
+#include <sys/stat.h>
+
 /** A program that is killed at any moment loses at most the last second. */
 class CrashTest : public QObject
 {
@@ -14,6 +16,9 @@ private Q_SLOTS:
     void losesAtMostTheLastSecond();
     void aDiscardedJournalIsGone();
     void aDamagedJournalIsNotOffered();
+    void aFormerJournalStaysUntilItIsDecided();
+    void aJournalReadInPartIsCopiedOnce();
+    void aPipeInTheJournalsPlaceIsNotWaitedFor();
 };
 
 namespace
@@ -117,6 +122,61 @@ void CrashTest::aDamagedJournalIsNotOffered()
     file.write("\0\0\0\0", 4);
     file.close();
     QVERIFY(!RecoveryJournal(folder.path()).find(Paper()));
+}
+
+void CrashTest::aFormerJournalStaysUntilItIsDecided()
+{
+    const QTemporaryDir folder;
+    const DocumentSnapshot lost{Paper(), 2, {}};
+    QVERIFY(RecoveryJournal(folder.path()).write(lost, "/song.tonquill", "ab01"));
+
+    RecoveryJournal journal(folder.path());
+    QVERIFY(!journal.write(DocumentSnapshot(), QString()));
+    journal.discard();
+    QCOMPARE(journal.find(Paper())->document, lost);
+    QCOMPARE(journal.find(Paper())->path, QString("/song.tonquill"));
+    QCOMPARE(journal.find(Paper())->contents, QByteArray("ab01"));
+    journal.takeOver();
+    QVERIFY(journal.write(DocumentSnapshot(), QString()));
+    QCOMPARE(journal.find(Paper())->document, DocumentSnapshot());
+}
+
+void CrashTest::aJournalReadInPartIsCopiedOnce()
+{
+    const QTemporaryDir folder;
+    const QByteArray bytes = "tonquill-recovery /a.tonquill\ntonquill-document 1\n"
+                             "tonquill_bitmap 1 2 19\nrubbish\ntonquill-end\n";
+    QFile file(folder.filePath("recovery.tonquill"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    file.close();
+    const RecoveryJournal journal(folder.path());
+    const auto found = journal.find(Paper());
+    QCOMPARE(found->document.items, QByteArrayList{"tonquill_bitmap 1 2 19"});
+    // Counted as in a file, from behind the journal's own line.
+    QVERIFY(found->problems.contains("Line 3"));
+
+    const QString copy = journal.keepCopy();
+    QCOMPARE(journal.keepCopy(), copy);
+    QFile kept(copy);
+    QVERIFY(kept.open(QIODevice::ReadOnly));
+    QCOMPARE(kept.readAll(), bytes);
+    QCOMPARE(kept.permissions() & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    QVERIFY(file.exists());
+}
+
+void CrashTest::aPipeInTheJournalsPlaceIsNotWaitedFor()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("recovery.tonquill");
+    QCOMPARE(mkfifo(QFile::encodeName(path), S_IRUSR | S_IWUSR), 0);
+    RecoveryJournal journal(folder.path());
+    QVERIFY(!journal.find(Paper()));
+    QVERIFY(journal.isUndecided());
+    QCOMPARE(journal.keepCopy(), QString());
+    journal.takeOver();
+    QVERIFY(!journal.write(DocumentSnapshot(), QString()));
+    QVERIFY(!journal.error().isEmpty());
 }
 
 TONQUILL_SOLO_TEST_MAIN(CrashTest)

@@ -3,6 +3,7 @@
 #include "ModalAnswer.h"
 #include "PaletteTable.h"
 #include "PaperPainting.h"
+#include "SaveDialog.h"
 #include "SoloTestMain.h"
 #include "SoloWindow.h"
 #include "TonquillBitmap.h"
@@ -53,6 +54,8 @@ private Q_SLOTS:
     void boxesShowNamesAsTheyStand();
     void theTitleShowsAnyName();
     void appearsOnceAndWhenItIsShown();
+    void aNameCompletedBehindTheDialogIsAskedAbout();
+    void thatNothingCanBeKeptIsToldOnce();
 
 private:
     QList<QAction *> menuActions() const;
@@ -249,7 +252,7 @@ void SoloWindowTest::aSavedFileIsInOpenRecent()
 {
     placeNote();
     const QString path = m_folder->filePath("rock & roll.tonquill");
-    m_solo->session().show(m_solo->session().edits().document(), path, true);
+    m_solo->session().show(m_solo->session().edits().document(), path, FileStamp());
     QVERIFY(m_solo->files().save());
     m_solo->files().makeNew();
     QVERIFY(m_solo->session().path().isEmpty());
@@ -445,7 +448,7 @@ void SoloWindowTest::boxesShowNamesAsTheyStand_data()
            });
     QTest::newRow("a file that cannot be saved")
         << QByteArray() << Act([](SoloWindow &solo, const QString &path) {
-               solo.session().show(DocumentSnapshot(), path + "/none", true);
+               solo.session().show(DocumentSnapshot(), path + "/none", FileStamp());
                solo.files().save();
            });
     QTest::newRow("recovery") << QByteArray() << Act([](SoloWindow &solo, const QString &path) {
@@ -499,6 +502,36 @@ void SoloWindowTest::appearsOnceAndWhenItIsShown()
     QVERIFY(QTest::qWaitForWindowExposed(&solo.window()));
     QCoreApplication::processEvents();
     QCOMPARE(appeared.size(), 1);
+    solo.session().close();
+}
+
+/** A dialog of the desktop may not complete the name before it asks. */
+void SoloWindowTest::aNameCompletedBehindTheDialogIsAskedAbout()
+{
+    const SaveDialog dialog("Save As", "Documents (*.tonquill)", "tonquill");
+    const QString song = fileOf("song", "song.tonquill");
+    const QString bare = m_folder->filePath("song");
+    QCOMPARE(dialog.completed(m_solo->window(), song), song);
+    QCOMPARE(dialog.completed(m_solo->window(), m_folder->filePath("new")),
+             m_folder->filePath("new.tonquill"));
+    QString asked;
+    answerBox(QMessageBox::RejectRole, &asked);
+    QCOMPARE(dialog.completed(m_solo->window(), bare), QString());
+    QVERIFY(asked.contains("song.tonquill"));
+    answerBox(QMessageBox::DestructiveRole);
+    QCOMPARE(dialog.completed(m_solo->window(), bare), song);
+}
+
+void SoloWindowTest::thatNothingCanBeKeptIsToldOnce()
+{
+    SoloWindow solo("/dev/null/folder");
+    QSignalSpy failed(&solo.session(), &DocumentSession::journalFailed);
+    QString said;
+    answerBox(QMessageBox::AcceptRole, &said);
+    solo.session().tryJournal();
+    QTRY_VERIFY(said.contains("/dev/null/folder"));
+    solo.session().tryJournal();
+    QCOMPARE(failed.size(), 1);
     solo.session().close();
 }
 

@@ -1,0 +1,74 @@
+#include "RecoveryOffer.h"
+
+#include "DocumentSession.h"
+#include "PlainMessageBox.h"
+
+#include <QDir>
+#include <QLocale>
+#include <QPushButton>
+
+bool RecoveryOffer::make()
+{
+    RecoveryJournal &journal = m_session.journal();
+    const auto found = journal.find(m_session.defaultPaper());
+    if (!found) {
+        if (journal.isUndecided())
+            tellUnreadable();
+        return false;
+    }
+    // Made before the question: what is left out is never on its way out without a copy.
+    const QString copy = found->problems.isEmpty() ? QString() : journal.keepCopy();
+    const bool isWanted = wants(*found, copy);
+    if (isWanted) {
+        m_session.showRecovered(*found);
+    } else {
+        journal.takeOver();
+        journal.discard();
+    }
+    return isWanted;
+}
+
+void RecoveryOffer::tellUnreadable()
+{
+    const QString copy = m_session.journal().keepCopy();
+    const QString file = QDir::toNativeSeparators(m_session.journal().file());
+    const QString details =
+        copy.isEmpty() ? tr("It stays in the file %1. Until that is moved away, no other changes "
+                            "are kept for recovery.")
+                             .arg(file)
+                       : tr("It is kept in the file %1.").arg(QDir::toNativeSeparators(copy));
+    PlainMessageBox(QMessageBox::Warning,
+                    tr("Tonquill ended unexpectedly, and what was not saved cannot be read."),
+                    details, QMessageBox::Ok, &m_window)
+        .exec();
+    if (!copy.isEmpty())
+        m_session.journal().takeOver();
+}
+
+bool RecoveryOffer::wants(const RecoveryJournal::Found &found, const QString &copy)
+{
+    const QString name = found.path.isEmpty() ? tr("a document without a name")
+                                              : QDir::toNativeSeparators(found.path);
+    const QString details = tr("%1, %2.\nThe file itself stays as it is until you save.")
+                                .arg(name, QLocale().toString(found.time, QLocale::ShortFormat));
+    PlainMessageBox box(QMessageBox::Question,
+                        tr("Tonquill ended unexpectedly. Recover the unsaved changes?"),
+                        details + lossesOf(found, copy), QMessageBox::NoButton, &m_window);
+    QPushButton *recover = box.addButton(tr("Recover"), QMessageBox::AcceptRole);
+    box.addButton(tr("Discard"), QMessageBox::DestructiveRole);
+    box.setDefaultButton(recover);
+    box.setEscapeButton(recover);
+    box.exec();
+    return box.clickedButton() == recover;
+}
+
+/** What the details say about a journal that can only be read in part. */
+QString RecoveryOffer::lossesOf(const RecoveryJournal::Found &found, const QString &copy)
+{
+    if (found.problems.isEmpty())
+        return QString();
+    QString text = tr("\n\nNot everything can be read:") + u'\n' + found.problems;
+    if (!copy.isEmpty())
+        text += tr("\n\nAll that was kept is in the file %1.").arg(QDir::toNativeSeparators(copy));
+    return text;
+}
