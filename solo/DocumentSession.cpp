@@ -36,12 +36,20 @@ DocumentSession::DocumentSession(TonquillMainWin &window, const QString &folder)
 
 QString DocumentSession::name() const
 {
-    return origin().isEmpty() ? tr("Untitled") : QFileInfo(origin()).fileName();
+    const QString shown = QFileInfo(m_path.isEmpty() ? m_origin : m_path).fileName();
+    return shown.isEmpty() ? tr("Untitled") : shown;
+}
+
+QString DocumentSession::source() const
+{
+    if (!m_path.isEmpty())
+        return m_path;
+    return QFileInfo(m_origin).isAbsolute() ? m_origin : QString();
 }
 
 bool DocumentSession::comesFrom(const QString &path) const
 {
-    return origin() == path || FileStamp::at(path).isSameFileAs(FileStamp::at(origin()));
+    return path == source() || FileStamp::at(path).isSameFileAs(FileStamp::at(source()));
 }
 
 FileStamp::Change DocumentSession::fileChange()
@@ -84,7 +92,7 @@ void DocumentSession::show(const DocumentSnapshot &document, const QString &path
                            const FileStamp &file)
 {
     m_path = path;
-    m_suggestion.clear();
+    m_origin.clear();
     m_file = file;
     begin(document, false);
 }
@@ -93,7 +101,7 @@ void DocumentSession::showUnnamed(const DocumentSnapshot &document, const QStrin
                                   bool isModified)
 {
     m_path.clear();
-    m_suggestion = origin;
+    m_origin = origin;
     m_file = FileStamp();
     begin(document, isModified);
 }
@@ -106,7 +114,7 @@ void DocumentSession::showRecovered(const RecoveryJournal::Found &found)
         return;
     }
     m_path = found.path;
-    m_suggestion.clear();
+    m_origin.clear();
     m_file = found.contents.isEmpty()
                  ? FileStamp::of(found.path, OrdinaryFile::read(found.path).bytes)
                  : FileStamp::ofContents(found.contents);
@@ -127,7 +135,7 @@ QString DocumentSession::saveAs(const QString &path)
     if (!error.isEmpty())
         return error;
     m_path = path;
-    m_suggestion.clear();
+    m_origin.clear();
     m_seenFile = m_file;
     m_saved = m_edits.document();
     m_differsFromFile = false;

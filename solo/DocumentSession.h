@@ -27,8 +27,8 @@ public:
     /** The file, or empty for a document that has none yet. */
     QString path() const { return m_path; }
 
-    /** Where an unnamed document comes from: a path or a mere name. Otherwise its file. */
-    QString origin() const { return m_path.isEmpty() ? m_suggestion : m_path; }
+    /** The file that the document was read from, its own or not; empty if there is none. */
+    QString source() const;
 
     /** True if what is shown comes from this file, by whatever name it goes. */
     bool comesFrom(const QString &path) const;
@@ -93,7 +93,7 @@ private:
     RecoveryJournal m_journal;
     QTimer m_journalDue;
     QString m_path;
-    QString m_suggestion;
+    QString m_origin;         ///< of an unnamed document: what it was read from, or a mere name
     FileStamp m_file;         ///< as it was read or saved
     FileStamp m_seenFile;     ///< as it was when it was last looked at
     DocumentSnapshot m_empty; ///< the document of a new window

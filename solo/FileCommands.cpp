@@ -195,10 +195,10 @@ bool FileCommands::saveTo(const QString &path)
 /** Beside the document's file; a document without one belongs with the user's documents. */
 QString FileCommands::suggestedPath(const QString &suffix) const
 {
-    const QFileInfo origin(m_session.origin());
-    const QString folder =
-        origin.isAbsolute() ? origin.path()
-                            : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString source = m_session.source();
+    const QString folder = source.isEmpty()
+                               ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                               : QFileInfo(source).path();
     const QString existing = QDir(folder).exists() ? folder : QDir::homePath();
     return QDir(existing).filePath(QFileInfo(m_session.name()).completeBaseName() + u'.' + suffix);
 }
@@ -211,7 +211,7 @@ void FileCommands::exportPdf()
     if (path.isEmpty())
         return;
     ExportOptions options;
-    options.document = m_session.origin();
+    options.document = m_session.source();
     const QString error = Exporter(m_window).write(path, options);
     if (!error.isEmpty())
         showError(tr("The PDF could not be written."), error);

@@ -32,9 +32,11 @@ QString meetingFolder(const QString &folder)
     constexpr qsizetype enough = 8;
     const QByteArray mark =
         QCryptographicHash::hash(folder.toUtf8(), QCryptographicHash::Sha1).toHex().first(enough);
+    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (runtime.isEmpty())
+        return folder;
     const QString other =
-        QDir(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation))
-            .filePath(QStringLiteral("tonquill-solo-") + QString::fromLatin1(mark));
+        QDir(runtime).filePath(QStringLiteral("tonquill-solo-") + QString::fromLatin1(mark));
     QDir().mkpath(other);
     return other;
 }

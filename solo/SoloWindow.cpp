@@ -61,8 +61,11 @@ void SoloWindow::show()
 void SoloWindow::openLater(const QString &path)
 {
     show();
-    if (!path.isEmpty())
-        m_errands.add([this, path] { m_files.openFile(path); });
+    m_errands.add([this, path] {
+        // The changes to a file that is open already are what its user wants to see.
+        if (!path.isEmpty() && !(m_session.isModified() && m_session.comesFrom(path)))
+            m_files.openFile(path);
+    });
 }
 
 void SoloWindow::begin(const Beginning &wanted)

@@ -1,5 +1,6 @@
 """A later start of the program, whatever the first one is busy with."""
 
+import hashlib
 import pathlib
 import signal
 import sys
@@ -7,7 +8,7 @@ import unittest
 
 from desktop import Desktop
 from solo import BOX, NOTE, SAVE_AS, Solo, document
-from workbench import DEADLINE, stop_after, tool
+from workbench import DEADLINE, stop_after, tool, wait_until
 
 PROGRAMS = pathlib.Path(sys.argv.pop(1))
 
@@ -49,7 +50,7 @@ class SecondStartTest(unittest.TestCase):
 
     def test_waits_for_the_end_of_an_export(self):
         long, pdf = self.desktop.folder / "long.tonquill", self.desktop.folder / "long.pdf"
-        pages, per_page = 3000, 4
+        pages, per_page = 4000, 20
         glyphs = [(x * 30, page * 1100 + 200) for page in range(pages) for x in range(per_page)]
         long.write_text(document(*glyphs).replace("pagecount 1", f"pagecount {pages}"))
         solo = Solo(self.desktop, PROGRAMS, long, window=r"^long\.tonquill –")
@@ -81,6 +82,29 @@ class SecondStartTest(unittest.TestCase):
                 self.assertEqual(solo.start_again(self.other, **environment), 0)
                 solo.main(r"other\.tonquill")
                 solo.kill()
+
+    def test_goes_on_where_nothing_can_be_written(self):
+        # Without a home the session's folder would do, but there is a file in the way.
+        home = "/dev/null"
+        folder = home + "/.local/share/Tonquill/tonquill-solo"
+        mark = hashlib.sha1(folder.encode()).hexdigest()[:8]
+        (self.desktop.folder / "runtime" / f"tonquill-solo-{mark}").touch()
+        solo = Solo(self.desktop, PROGRAMS, self.song, window=BOX, environment={"HOME": home})
+        # A second start does not reach it, and nothing is kept for recovery: a box each.
+        box = solo.titled(BOX)
+        self.desktop.key("Return")
+        wait_until(lambda: solo.titled(BOX).id != box.id, "the second box")
+        self.desktop.key("Return")
+        solo.edit(r"song\.tonquill")
+
+    def test_the_file_that_is_open_is_shown_with_its_changes(self):
+        solo = Solo(self.desktop, PROGRAMS, self.song)
+        solo.edit(r"song\.tonquill")
+        self.assertEqual(solo.start_again(self.song), 0)
+        # Whatever comes after it comes to the window, and not to a question.
+        self.desktop.key("ctrl+s")
+        solo.main(r"song\.tonquill")
+        self.assertIn(NOTE.format(301, 150), self.song.read_text())
 
     def test_says_that_the_first_start_does_not_answer(self):
         solo = Solo(self.desktop, PROGRAMS, self.song)
