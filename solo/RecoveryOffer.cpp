@@ -31,15 +31,14 @@ bool RecoveryOffer::make()
 void RecoveryOffer::tellUnreadable()
 {
     const QString copy = m_session.journal().keepCopy();
-    const QString file = QDir::toNativeSeparators(m_session.journal().file());
     const QString details =
-        copy.isEmpty() ? tr("It stays in the file %1. Until that is moved away, no other changes "
-                            "are kept for recovery.")
-                             .arg(file)
-                       : tr("It is kept in the file %1.").arg(QDir::toNativeSeparators(copy));
+        copy.isEmpty()
+            ? tr("Until this file is moved away, no other changes are kept for recovery:")
+            : tr("It is kept in this file:");
+    const QString file = copy.isEmpty() ? m_session.journal().file() : copy;
     PlainMessageBox(QMessageBox::Warning,
                     tr("Tonquill ended unexpectedly, and what was not saved cannot be read."),
-                    details, QMessageBox::Ok, &m_window)
+                    details + u'\n' + QDir::toNativeSeparators(file), QMessageBox::Ok, &m_window)
         .exec();
     if (!copy.isEmpty())
         m_session.journal().takeOver();
@@ -67,8 +66,10 @@ QString RecoveryOffer::lossesOf(const RecoveryJournal::Found &found, const QStri
 {
     if (found.problems.isEmpty())
         return QString();
-    QString text = tr("\n\nNot everything can be read:") + u'\n' + found.problems;
+    QString text =
+        QStringLiteral("\n\n") + tr("Not everything can be read:") + u'\n' + found.problems;
     if (!copy.isEmpty())
-        text += tr("\n\nAll that was kept is in the file %1.").arg(QDir::toNativeSeparators(copy));
+        text += QStringLiteral("\n\n") + tr("All that was kept is in this file:") + u'\n' +
+                QDir::toNativeSeparators(copy);
     return text;
 }
