@@ -1,5 +1,6 @@
 """Files under the hand: opened again, saved under old names, changed by others, read in part."""
 
+import os
 import pathlib
 import sys
 import time
@@ -59,6 +60,18 @@ class FilesTest(unittest.TestCase):
         self.desktop.key("Return")
         wait_until(lambda: solo.titled(name).id == dialog.id, "the dialog goes on")
         self.desktop.key("Escape")
+
+    def test_a_pipe_or_a_folder_is_refused_at_once(self):
+        pipe = self.desktop.folder / "pipe.tonquill"
+        os.mkfifo(pipe)
+        solo = Solo(self.desktop, PROGRAMS, pipe, window=BOX)
+        for path in [self.desktop.folder, "/dev/zero", pipe]:
+            self.desktop.key("Return")
+            solo.main("Untitled")
+            self.assertEqual(solo.start_again(path), 0)
+            solo.titled(BOX)
+        self.desktop.key("Return")
+        solo.main("Untitled")
 
     def test_the_open_file_is_opened_again_as_it_was_saved(self):
         solo = self.open_song()
