@@ -11,8 +11,8 @@ struct ExportOptions
 {
     int page = 1; ///< counted from 1
     int dotsPerInch = 150;
-    QString document =
-        QString(); ///< the file that is exported, which must not be written over; or empty
+    /** The file that is exported, which must not be written over; or empty. */
+    QString document = QString();
 };
 
 /** Writes the window's document as PDF, PNG or SVG, told by the file's suffix. */
