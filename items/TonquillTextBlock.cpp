@@ -1,5 +1,6 @@
 #include "TonquillTextBlock.h"
 
+#include "EmbeddedPicture.h"
 #include "PaperPainting.h"
 #include "Records.h"
 
@@ -45,13 +46,23 @@ public:
 protected:
     QVariant loadResource(int type, const QUrl &name) override
     {
-        if (name.scheme() == QLatin1String("data"))
-            return QTextDocument::loadResource(type, name);
-        // Were there none at all, the toolkit would open the file in another way.
-        QPixmap nothing(1, 1);
-        nothing.fill(Qt::transparent);
-        return nothing;
+        // As text: bytes would be kept under this name and taken for a picture of any kind later.
+        if (type == StyleSheetResource)
+            return QString::fromUtf8(EmbeddedPicture::bytesOf(name));
+        QImage picture = EmbeddedPicture::decoded(EmbeddedPicture::bytesOf(name), m_pixelsLeft);
+        m_pixelsLeft -= qint64(picture.width()) * picture.height();
+        // Were there none at all, Qt would open the file in another way.
+        if (picture.isNull()) {
+            picture = QImage(1, 1, QImage::Format_ARGB32_Premultiplied);
+            picture.fill(Qt::transparent);
+        }
+        const QPixmap kept = QPixmap::fromImage(picture);
+        addResource(type, name, kept); // or it would be decoded for each painting
+        return kept;
     }
+
+private:
+    qint64 m_pixelsLeft = EmbeddedPicture::mostPixels;
 };
 } // namespace
 

@@ -659,6 +659,40 @@ void TextBlockTest::formattedTextOpensNoFile_data()
                    "</head><body><p>la</p></body></html>")
                .arg(sheet.fileName())
         << false;
+    const QString drawing("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"20\" height=\"20\" "
+                          "xmlns:xlink=\"http://www.w3.org/1999/xlink\">%1</svg>");
+    const QString naming =
+        drawing.arg("<image width=\"20\" height=\"20\" xlink:href=\"" + pictureFile + "\"/>");
+    const QString plain = drawing.arg("<rect width=\"20\" height=\"20\" style=\"fill:#ff0000\"/>");
+    const auto inData = [](const QString &type, const QString &content) {
+        return "data:" + type + ";base64," + QString(content.toUtf8().toBase64());
+    };
+    QTest::newRow("a drawing within the text that names a picture")
+        << withPicture.arg(inData("image/svg+xml", naming)) << false;
+    QTest::newRow("a drawing that says it is a picture")
+        << withPicture.arg(inData("image/png", plain)) << false;
+    QTest::newRow("a drawing that is a style sheet first")
+        << "<html><head><link rel=\"stylesheet\" type=\"text/css\" href=\"" +
+               inData("image/svg+xml", plain) + "\"></head><body>" +
+               withPicture.arg(inData("image/svg+xml", plain)) + "</body></html>"
+        << false;
+    QTest::newRow("colours of a style sheet within the text")
+        << "<html><head><link rel=\"stylesheet\" type=\"text/css\" href=\"" +
+               inData("text/css", "p { background-color: #ff0000 }") +
+               "\"></head><body><p>la</p></body></html>"
+        << true;
+    QBuffer otherFormat;
+    QVERIFY(picture.save(&otherFormat, "BMP"));
+    QTest::newRow("a picture in another format, whatever it is called")
+        << withPicture.arg("data:image/x;base64," + otherFormat.data().toBase64()) << true;
+    // Few bytes, but 5,000 by 4,000 pixels, of which the first is as red as all others.
+    QImage huge(5000, 4000, QImage::Format_Mono);
+    huge.setColorTable({qRgb(255, 0, 0), qRgb(255, 0, 0)});
+    huge.fill(0);
+    QBuffer packed;
+    QVERIFY(huge.save(&packed, "PNG"));
+    QTest::newRow("a picture of too many pixels")
+        << withPicture.arg("data:image/png;base64," + packed.data().toBase64()) << false;
 }
 
 void TextBlockTest::formattedTextOpensNoFile()
