@@ -1,5 +1,7 @@
 #include "PaperPainting.h"
 
+#include "DrawingText.h"
+
 #include <QAbstractTextDocumentLayout>
 #include <QGraphicsTextItem>
 #include <QPaintDevice>
@@ -91,7 +93,10 @@ void PaperPainting::drawText(QPainter *painter, const QGraphicsTextItem &item,
     // Nothing lies within a rectangle whose corners are crossed, yet the screen shows such a text.
     if (exposed.isValid())
         painter->setClipRect(exposed, Qt::IntersectClip);
-    item.document()->documentLayout()->draw(painter, context);
+    const std::unique_ptr<QTextDocument> copy = DrawingText::isNeeded(*painter, *item.document())
+                                                    ? DrawingText::copyOf(*item.document())
+                                                    : nullptr;
+    (copy ? copy.get() : item.document())->documentLayout()->draw(painter, context);
     painter->restore();
 }
 

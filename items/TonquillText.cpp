@@ -1,5 +1,6 @@
 #include "TonquillText.h"
 
+#include "DrawingText.h"
 #include "PaperPainting.h"
 #include "Records.h"
 
@@ -41,7 +42,7 @@ QString TonquillText::getParamStr()
 
 void TonquillText::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget)
 {
-    if (PaperPainting::isPrinter(*painter))
+    if (PaperPainting::isPrinter(*painter) || DrawingText::isNeeded(*painter, *document()))
         PaperPainting::drawText(painter, *this, option->exposedRect);
     else
         QGraphicsTextItem::paint(painter, option, widget);

@@ -1,8 +1,9 @@
 #include "TonquillTextBlock.h"
 
-#include "EmbeddedPicture.h"
+#include "DrawingText.h"
 #include "PaperPainting.h"
 #include "Records.h"
+#include "SelfContainedText.h"
 
 #include <QCoreApplication>
 #include <QCursor>
@@ -13,8 +14,6 @@
 #include <QPainter>
 #include <QPointer>
 #include <QTextCursor>
-#include <QTextDocument>
-#include <QUrl>
 
 #include <array>
 
@@ -32,38 +31,6 @@ QString placeholder()
     return QStringLiteral("Text Block:\r\n\r\nSet the size with the Mouse.\r\n"
                           "Double-click to Edit.");
 }
-
-/**
- * The text of a block. It may be formatted, come from a stranger's document, and name a picture or
- * a style sheet: no file of this machine is opened for that, which might also be a device without
- * an end. Only what the text itself contains is shown.
- */
-class SelfContainedText : public QTextDocument
-{
-public:
-    using QTextDocument::QTextDocument;
-
-protected:
-    QVariant loadResource(int type, const QUrl &name) override
-    {
-        // As text: bytes would be kept under this name and taken for a picture of any kind later.
-        if (type == StyleSheetResource)
-            return QString::fromUtf8(EmbeddedPicture::bytesOf(name));
-        QImage picture = EmbeddedPicture::decoded(EmbeddedPicture::bytesOf(name), m_pixelsLeft);
-        m_pixelsLeft -= qint64(picture.width()) * picture.height();
-        // Were there none at all, Qt would open the file in another way.
-        if (picture.isNull()) {
-            picture = QImage(1, 1, QImage::Format_ARGB32_Premultiplied);
-            picture.fill(Qt::transparent);
-        }
-        const QPixmap kept = QPixmap::fromImage(picture);
-        addResource(type, name, kept); // or it would be decoded for each painting
-        return kept;
-    }
-
-private:
-    qint64 m_pixelsLeft = EmbeddedPicture::mostPixels;
-};
 } // namespace
 
 TonquillTextBlock::TonquillTextBlock(bool adding, const QString &text, const QRectF &rect,
@@ -168,7 +135,7 @@ void TonquillTextBlock::onFontSizeChange()
 void TonquillTextBlock::paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
                               QWidget *widget)
 {
-    if (PaperPainting::isPrinter(*painter))
+    if (PaperPainting::isPrinter(*painter) || DrawingText::isNeeded(*painter, *document()))
         PaperPainting::drawText(painter, *this, option->exposedRect);
     else
         QGraphicsTextItem::paint(painter, option, widget);

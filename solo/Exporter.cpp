@@ -2,6 +2,7 @@
 
 #include "AtomicFile.h"
 #include "DocumentSnapshot.h"
+#include "DrawingText.h"
 #include "FileStamp.h"
 #include "PagePicture.h"
 #include "PagePrinter.h"
@@ -30,16 +31,15 @@ constexpr int screenDotsPerInch = 96;
 constexpr int fewestDots = 10;
 constexpr int mostDots = 2400;
 
-/** A drawing that says how large its sheet is: what the toolkit wrote goes by another resolution.
- */
-QByteArray withSheetSize(const QByteArray &svg, const QSize &dots)
+/** The finished drawing, which says how large its sheet is, for Qt goes by another resolution. */
+QByteArray finishedWithSheetSize(const QByteArray &svg, const QSize &dots)
 {
     static const QRegularExpression written(
         QStringLiteral("<svg width=\"[^\"]*\" height=\"[^\"]*\""));
     const auto inches = [](int length) { return QString::number(double(length) / svgDotsPerInch); };
     const QString right = QStringLiteral("<svg width=\"%1in\" height=\"%2in\"")
                               .arg(inches(dots.width()), inches(dots.height()));
-    return QString::fromUtf8(svg).replace(written, right).toUtf8();
+    return DrawingText::finished(QString::fromUtf8(svg)).replace(written, right).toUtf8();
 }
 
 /** A drawing that brings along the notation font, which others do not have. */
@@ -139,5 +139,5 @@ QByteArray Exporter::svg(const ExportOptions &options)
     QPainter painter(&generator);
     page.paint(painter);
     painter.end();
-    return withNotationFont(withSheetSize(buffer.data(), page.size()));
+    return withNotationFont(finishedWithSheetSize(buffer.data(), page.size()));
 }

@@ -2,6 +2,8 @@
 #include "FullDisk.h"
 #include "LongPrint.h"
 #include "ModalAnswer.h"
+#include "QuotedFields.h"
+#include "SceneItems.h"
 #include "SoloTestMain.h"
 #include "SoloWindow.h"
 #include "TonquillScene.h"
@@ -9,6 +11,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QXmlStreamReader>
 
 #include <cmath>
 
@@ -26,6 +29,8 @@ private Q_SLOTS:
     void aCancelledPdfIsNotSpokenOf();
     void aPngHasAllInkAtAnyResolution_data();
     void aPngHasAllInkAtAnyResolution();
+    void nothingInADrawingIsMoreThanText_data();
+    void nothingInADrawingIsMoreThanText();
 
 private:
     void choosePath();
@@ -157,6 +162,127 @@ void ExporterTest::aPngHasAllInkAtAnyResolution()
     const double ink = inkOf(QImage(png)) - empty;
     QVERIFY2(std::abs(ink - expected) <= 0.02 * expected,
              qPrintable(QString("%1 instead of %2").arg(ink).arg(expected)));
+}
+
+namespace
+{
+/** The elements of a drawing with their attributes, and the values of some. */
+struct Drawing
+{
+    QString error;
+    QSet<QString> names; ///< of elements and, behind an @, of attributes
+    QSet<QString> families;
+    QSet<QString> links;
+    QString text;
+};
+
+Drawing readDrawing(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {"cannot be opened", {}, {}, {}, {}};
+    Drawing result;
+    QXmlStreamReader xml(&file);
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (xml.isStartElement()) {
+            result.names.insert(xml.name().toString());
+            for (const QXmlStreamAttribute &one : xml.attributes()) {
+                result.names.insert('@' + one.qualifiedName().toString());
+                if (one.name() == QLatin1String("font-family"))
+                    result.families.insert(one.value().toString());
+                if (one.name() == QLatin1String("href"))
+                    result.links.insert(one.value().left(5).toString());
+            }
+        }
+        if (xml.isCharacters())
+            result.text += xml.text();
+    }
+    result.error = xml.errorString();
+    return result;
+}
+} // namespace
+
+void ExporterTest::nothingInADrawingIsMoreThanText_data()
+{
+    QTest::addColumn<QString>("family");
+    QTest::addColumn<QString>("written");
+    QTest::newRow("an attribute") << "x\" onload=\"alert(1)"
+                                  << "x\" onload=\"alert(1)";
+    QTest::newRow("an element") << "x\"><script>alert(1)</script><g x=\""
+                                << "x\"><script>alert(1)</script><g x=\"";
+    QTest::newRow("an entity") << "R&B &quot;&#34; 'n'"
+                               << "R&B &quot;&#34; 'n'";
+    QTest::newRow("characters that no XML holds")
+        << QString("a\x01") + QChar(0xffff) + 'b' << QString("a\ufffd\ufffd") + 'b';
+    QTest::newRow("what Qt writes behind a family")
+        << "Arial\" font-size=\"9\" font-weight=\"400\" font-style=\"normal\" \n>la</text>"
+        << "Arial\" font-size=\"9\" font-weight=\"400\" font-style=\"normal\"  >la</text>";
+}
+
+void ExporterTest::nothingInADrawingIsMoreThanText()
+{
+    QFETCH(QString, family);
+    QFETCH(QString, written);
+    const QString words = "la</text>\"<b>&\x02" + QString(QChar(0xfffe)) + "\" onload=\"x";
+    const ItemState::Font font{family, 12, false, 400, QFont::StyleNormal, false};
+    QImage red(3, 3, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    QBuffer png;
+    QVERIFY(red.save(&png, "PNG"));
+    const QString html =
+        QString("<p>plain <span style=\"font-family:'%1'; color:'\"><b'\">la</span> "
+                "<img src=\"data:image/png;base64,%2\"></p>")
+            .arg(family.toHtmlEscaped(), png.data().toBase64());
+    TonquillMainWin &window = m_solo->window();
+    SceneItems::build(window, ItemState::Text{QPointF(90, 90), words, font, Qt::red, 0});
+    SceneItems::build(window, ItemState::TextBlock{QPointF(90, 200), QPointF(), QPointF(300, 90),
+                                                   299, font, words, false});
+    SceneItems::build(window, ItemState::TextBlock{QPointF(90, 400), QPointF(), QPointF(300, 90),
+                                                   299, font, html, true});
+    const QString svg = m_folder->filePath("a.svg");
+    QCOMPARE(Exporter(window).write(svg, ExportOptions()), QString());
+
+    const Drawing drawing = readDrawing(svg);
+    QCOMPARE(drawing.error, QString());
+    const QSet<QString> elements{"svg",  "title", "desc",     "defs", "style", "g",
+                                 "text", "path",  "polyline", "rect", "image"};
+    const QSet<QString> attributes{"@width",
+                                   "@height",
+                                   "@viewBox",
+                                   "@version",
+                                   "@baseProfile",
+                                   "@fill",
+                                   "@fill-opacity",
+                                   "@fill-rule",
+                                   "@stroke",
+                                   "@stroke-opacity",
+                                   "@stroke-width",
+                                   "@stroke-linecap",
+                                   "@stroke-linejoin",
+                                   "@transform",
+                                   "@font-family",
+                                   "@font-size",
+                                   "@font-weight",
+                                   "@font-style",
+                                   "@xml:space",
+                                   "@x",
+                                   "@y",
+                                   "@d",
+                                   "@points",
+                                   "@vector-effect",
+                                   "@xlink:href",
+                                   "@preserveAspectRatio",
+                                   "@image-rendering",
+                                   "@opacity"};
+    QCOMPARE(drawing.names - elements - attributes, QSet<QString>());
+    QCOMPARE(drawing.links, QSet<QString>{"data:"});
+    QVERIFY(drawing.families.contains(written));
+    // All that was typed is there, twice; the two characters that no XML holds are marked.
+    QCOMPARE(drawing.text.count("la</text>\"<b>&\ufffd\ufffd\" onload=\"x"), 2);
+    // Only in the drawing; the document has the family still.
+    for (const QByteArray &line : DocumentSnapshot::capture(window).items)
+        QVERIFY(line.contains(QuotedFields::quoted(family).toUtf8()));
 }
 
 TONQUILL_SOLO_TEST_MAIN(ExporterTest)
