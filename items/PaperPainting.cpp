@@ -75,6 +75,18 @@ QPen PaperPainting::linePen(const QPainter &painter, const QColor &color)
     return pen;
 }
 
+QRectF PaperPainting::visibleRect(const QPainter &painter)
+{
+    const QPaintDevice &device = *painter.device();
+    const QSizeF size = QSizeF(device.width(), device.height()) * device.devicePixelRatioF();
+    // A sheet begins at its margins, in which something may be seen as well.
+    const QRectF withMargins =
+        QRectF(QPointF(0, 0), size)
+            .adjusted(-size.width(), -size.height(), size.width(), size.height());
+    const QRectF onDevice = painter.combinedTransform().inverted().mapRect(withMargins);
+    return painter.hasClipping() ? onDevice & painter.clipBoundingRect() : onDevice;
+}
+
 QFont PaperPainting::inSceneUnits(const QFont &font)
 {
     QFont result(font);

@@ -33,6 +33,12 @@ void setScreenLines(ScreenLines lines);
 QPen linePen(const QPainter &painter, const QColor &color = Qt::black);
 
 /**
+ * The part of the plane, in the painter's coordinates, in which something painted may be seen; a
+ * little too large rather than too small. A figure may reach far beyond it.
+ */
+QRectF visibleRect(const QPainter &painter);
+
+/**
  * `font` with its point size turned into scene units. An item's text must keep its size on the
  * page, while points follow the dots per inch of whatever device is painted on.
  */

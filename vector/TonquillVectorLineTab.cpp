@@ -16,5 +16,6 @@ TonquillVectorLineTab::TonquillVectorLineTab(bool adding, QPointF start, QPointF
 void TonquillVectorLineTab::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
     painter->setPen(PaperPainting::linePen(*painter));
-    painter->drawLines(VectorShapes::tablature(startPoint(), endPoint()));
+    painter->drawLines(
+        VectorShapes::tablature(startPoint(), endPoint(), PaperPainting::visibleRect(*painter)));
 }

@@ -5,7 +5,9 @@
 
 #include <QPainterPath>
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace
 {
@@ -142,16 +144,27 @@ QList<QLine> VectorShapes::line(QPointF start, QPointF end)
 
 QList<QLine> VectorShapes::tablature(QPointF start, QPointF end)
 {
+    const qreal all = std::numeric_limits<qreal>::max() / 2;
+    return tablature(start, end, QRectF(QPointF(-all, -all), QPointF(all, all)));
+}
+
+QList<QLine> VectorShapes::tablature(QPointF start, QPointF end, const QRectF &visible)
+{
     const int spacings = truncatedToInt((end.y() - start.y()) / tablatureSpacing);
-    const int count = qBound(2, spacings, mostTablatureLines);
+    const int last = std::max(2, spacings) - 1;
+    const auto lineAt = [&start](double y) {
+        return truncatedToInt((y - start.y()) / tablatureSpacing);
+    };
+    // One more on either side, whose thickness may reach into what is visible.
+    const int from = std::clamp(lineAt(visible.top() - tablatureSpacing), 0, last);
+    const int to = std::clamp(lineAt(visible.bottom() + tablatureSpacing), from,
+                              std::min(last, from + std::min(last - from, mostTablatureLines - 1)));
+    const auto yOf = [&start](int i) { return start.y() + i * tablatureSpacing; };
     QList<QLine> lines;
-    lines.reserve(count + 1);
-    lines.append(
-        wholeLine(start.x(), start.y(), start.x(), start.y() + (count - 1) * tablatureSpacing));
-    for (int i = 0; i < count; ++i) {
-        const double y = start.y() + i * tablatureSpacing;
-        lines.append(wholeLine(start.x(), y, end.x(), y));
-    }
+    lines.reserve(to - from + 2);
+    lines.append(wholeLine(start.x(), yOf(from), start.x(), yOf(to)));
+    for (int i = from; i <= to; ++i)
+        lines.append(wholeLine(start.x(), yOf(i), end.x(), yOf(i)));
     return lines;
 }
 

@@ -29,6 +29,9 @@ QList<QLine> line(QPointF start, QPointF end);
 /** As many lines, 14 apart, as whole spacings fit between the points, but at least two. */
 QList<QLine> tablature(QPointF start, QPointF end);
 
+/** Of those, the ones that can be seen in `visible`, and the left edge as far as they reach. */
+QList<QLine> tablature(QPointF start, QPointF end, const QRectF &visible);
+
 /** A triplet bracket: its lines, and where the baseline of its numeral begins. */
 struct Triplet
 {

@@ -1,4 +1,5 @@
 #include "ItemProbe.h"
+#include "PaintRecorder.h"
 #include "ScenePointer.h"
 #include "TestMain.h"
 #include "TonquillMainWin.h"
@@ -8,6 +9,7 @@
 #include "TonquillVectorLineTab.h"
 #include "TonquillVectorNoteTie.h"
 #include "TonquillVectorTriplet.h"
+#include "VectorShapes.h"
 
 #include <QKeyEvent>
 #include <QSignalSpy>
@@ -89,6 +91,10 @@ private Q_SLOTS:
     void spaceGivesACopyWithTheDefaultPoints();
     void degenerateFiguresArePainted_data();
     void degenerateFiguresArePainted();
+    void onlyWhatIsSeenOfAHighTablatureIsPainted_data();
+    void onlyWhatIsSeenOfAHighTablatureIsPainted();
+    void aTablatureSeenInPartLooksTheSame_data();
+    void aTablatureSeenInPartLooksTheSame();
 
 private:
     static void addKinds();
@@ -311,6 +317,70 @@ void VectorItemsTest::degenerateFiguresArePainted()
     const bool isLine = item->type() == TonquillVectorInteractiveLine::Type;
     if (!end.isNull() || !(isLine || isTie(kinds[index])))
         QVERIFY(ItemProbe::pixelsOf(picture, Qt::black) >= 1);
+}
+
+void VectorItemsTest::onlyWhatIsSeenOfAHighTablatureIsPainted_data()
+{
+    QTest::addColumn<bool>("isClipped");
+    QTest::newRow("a device") << false;
+    QTest::newRow("a part of a device") << true;
+}
+
+/** A host may say that it is a billion high; that is kept, and costs no more than a window full. */
+void VectorItemsTest::onlyWhatIsSeenOfAHighTablatureIsPainted()
+{
+    QFETCH(bool, isClipped);
+    m_window.scene->constructItem("tonquill_linetab 10 20 0 0 300 1000000000\n", false, 0);
+    QGraphicsItem *item = ItemProbe::onlyItem(*m_window.scene);
+    QVERIFY(item);
+    QCOMPARE(item->boundingRect(), QRectF(0, 0, 300, 1e9));
+    QCOMPARE(ItemProbe::recordOf(item), "tonquill_linetab 10 20 0 0 300 1000000000\n");
+
+    RecordingScreen screen(700, 1400, QImage::Format_RGB32);
+    QPainter painter(&screen);
+    painter.translate(item->pos());
+    painter.translate(0, -5e8);
+    if (isClipped)
+        painter.setClipRect(QRectF(0, 5e8, 300, 140));
+    item->paint(&painter, nullptr, nullptr);
+    painter.end();
+    // 140 / 14 lines and one more on either side, where it is clipped. The device counts thrice.
+    const qsizetype most = isClipped ? 140 / 14 + 4 : 3 * 1400 / 14 + 4;
+    const QList<QLineF> lines = screen.recorder().lines;
+    QVERIFY2(lines.size() <= most, qPrintable(QString::number(lines.size())));
+    QVERIFY(lines.size() > (isClipped ? 140 : 1400) / 14);
+}
+
+void VectorItemsTest::aTablatureSeenInPartLooksTheSame_data()
+{
+    QTest::addColumn<QRectF>("area");
+    QTest::addColumn<double>("zoom");
+    QTest::newRow("upper end") << QRectF(150, 250, 300, 200) << 1.0;
+    QTest::newRow("middle") << QRectF(150, 2003, 300, 200) << 1.0;
+    QTest::newRow("lower end") << QRectF(150, 5200, 300, 200) << 1.0;
+    QTest::newRow("middle, small") << QRectF(150, 2003, 900, 800) << 0.4;
+    QTest::newRow("middle, large") << QRectF(195, 2003.3, 60, 40) << 8.0;
+}
+
+void VectorItemsTest::aTablatureSeenInPartLooksTheSame()
+{
+    QFETCH(QRectF, area);
+    QFETCH(double, zoom);
+    const QPointF end(180, 5003);
+    m_window.scene->constructItem("tonquill_linetab 200 300 0 0 180 5003\n", false, 0);
+    const QImage seen = ItemProbe::pictureOf(*m_window.scene, area, zoom);
+
+    QImage whole(seen.size(), QImage::Format_RGB32);
+    whole.fill(Qt::white);
+    QPainter painter(&whole);
+    painter.scale(zoom, zoom);
+    painter.translate(-area.topLeft());
+    painter.translate(200, 300);
+    painter.setPen(QPen(Qt::black, 0));
+    painter.drawLines(VectorShapes::tablature(QPointF(0, 0), end));
+    painter.end();
+    QCOMPARE(seen, whole);
+    QVERIFY(ItemProbe::pixelsOf(seen, Qt::black) > 0);
 }
 
 TONQUILL_TEST_MAIN(VectorItemsTest)

@@ -50,6 +50,8 @@ private Q_SLOTS:
     void line();
     void tablature_data();
     void tablature();
+    void tablatureThatIsSeenInPart_data();
+    void tablatureThatIsSeenInPart();
     void triplet_data();
     void triplet();
     void slantedTriplet_data();
@@ -158,6 +160,34 @@ void VectorShapesTest::tablature()
     for (int i = 0; i < strings; ++i)
         lines.append(level(20 + 14 * i, 10, 80));
     QCOMPARE(VectorShapes::tablature(QPointF(10, 20), QPointF(80, 20 + height)), lines);
+}
+
+void VectorShapesTest::tablatureThatIsSeenInPart_data()
+{
+    QTest::addColumn<double>("top");
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("last");
+
+    // Lines are at 20 + 14 * i, the last is 71,428,570 of them below the first; what is seen is 100
+    // high. A line more on either side.
+    QTest::newRow("the upper end: up to 120, 7.1 spacings") << 20.0 << 0 << 8;
+    QTest::newRow("above it all") << -5000.0 << 0 << 0;
+    QTest::newRow("966 / 14 is 69, 1094 / 14 is 78.1") << 1000.0 << 69 << 78;
+    QTest::newRow("below it all") << 1e9 + 100 << 71428570 << 71428570;
+}
+
+void VectorShapesTest::tablatureThatIsSeenInPart()
+{
+    QFETCH(double, top);
+    QFETCH(int, first);
+    QFETCH(int, last);
+
+    Lines lines{upright(10, 20 + 14 * first, 20 + 14 * last)};
+    for (int i = first; i <= last; ++i)
+        lines.append(level(20 + 14 * i, 10, 80));
+    QCOMPARE(
+        VectorShapes::tablature(QPointF(10, 20), QPointF(80, 1e9 + 20), QRectF(0, top, 700, 100)),
+        lines);
 }
 
 void VectorShapesTest::triplet_data()
