@@ -1,9 +1,12 @@
 #include "DocumentFile.h"
 
 #include "AtomicFile.h"
+#include "DocumentBounds.h"
 #include "DocumentReader.h"
 #include "ItemRecords.h"
 #include "OrdinaryFile.h"
+
+#include <new>
 
 namespace
 {
@@ -16,6 +19,12 @@ QByteArray paperLine(const Paper &paper)
                                paper.frame.top(), paper.frame.width(), paper.frame.height()})
         line += ' ' + ItemRecords::number(value).toLatin1();
     return line;
+}
+
+QString noMemory()
+{
+    return QCoreApplication::translate("DocumentFile",
+                                       "There is not enough memory for this document.");
 }
 } // namespace
 
@@ -45,7 +54,18 @@ QByteArray DocumentFile::format(const DocumentSnapshot &document)
 
 DocumentFile::Reading DocumentFile::parse(const QByteArray &bytes, const Paper &defaultPaper)
 {
-    return DocumentReader(defaultPaper).read(bytes);
+    try {
+        return DocumentReader(defaultPaper).read(bytes);
+    } catch (const std::bad_alloc &) {
+        Reading failed;
+        failed.problems = {{0, noMemory()}};
+        return failed;
+    }
+}
+
+qint64 DocumentFile::largestFile()
+{
+    return DocumentBounds::largestFile;
 }
 
 DocumentFile::Reading DocumentFile::load(const QString &path, const Paper &defaultPaper)
@@ -63,7 +83,9 @@ DocumentFile::Reading DocumentFile::load(const QString &path, const Paper &defau
 QString DocumentFile::save(const QString &path, const DocumentSnapshot &document, FileStamp *stamp)
 {
     const QByteArray bytes = format(document);
-    const QString error = AtomicFile::write(path, bytes);
+    QString error = OrdinaryFile::problemOfSize(bytes.size());
+    if (error.isEmpty())
+        error = AtomicFile::write(path, bytes);
     if (error.isEmpty() && stamp)
         *stamp = FileStamp::of(path, bytes);
     return error;

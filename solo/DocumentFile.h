@@ -43,6 +43,9 @@ QByteArray format(const DocumentSnapshot &document);
 /** Reads the bytes of a file. Without paper of its own the document lies on `defaultPaper`. */
 Reading parse(const QByteArray &bytes, const Paper &defaultPaper);
 
+/** The bytes that a file may have to be read. */
+qint64 largestFile();
+
 /**
  * Reads a file; one that cannot be opened is a Reading that is no document and says why. What is
  * not an ordinary file is not waited for.
@@ -50,8 +53,8 @@ Reading parse(const QByteArray &bytes, const Paper &defaultPaper);
 Reading load(const QString &path, const Paper &defaultPaper);
 
 /**
- * Writes a file atomically. The answer is empty, or says what went wrong; only if nothing did,
- * `stamp` is what the file is then.
+ * Writes a file atomically. The answer is empty, or says what went wrong: also when the file would
+ * be larger than can be read again. Only if nothing did, `stamp` is what the file is then.
  */
 QString save(const QString &path, const DocumentSnapshot &document, FileStamp *stamp = nullptr);
 } // namespace DocumentFile

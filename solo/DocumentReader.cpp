@@ -15,12 +15,6 @@ const QString pageCountKeyword = QStringLiteral("tonquill_pagecount ");
 const QString paperKeyword = QStringLiteral("tonquill_paper ");
 const QString hostKeywordBegin = QStringLiteral("tonquill_");
 
-/** More pages than this are an accident; each takes a part of the scene's height. */
-constexpr int mostPages = 10000;
-
-/** No sheet is longer, in scene units: about 25 metres. */
-constexpr double longestSheet = 90000;
-
 int lineNumber(qsizetype index)
 {
     return int(index) + 1;
@@ -29,6 +23,11 @@ int lineNumber(qsizetype index)
 
 DocumentFile::Reading DocumentReader::read(const QByteArray &bytes)
 {
+    if (bytes.size() > DocumentBounds::largestFile ||
+        bytes.count('\n') > DocumentBounds::mostLines) {
+        addProblem(0, tr("The file is larger than any document."));
+        return m_reading;
+    }
     splitLines(bytes);
     if (m_lines.value(0).startsWith(hostKeywordBegin)) {
         m_reading.isDocument = true;
@@ -132,7 +131,7 @@ bool DocumentReader::readPageCount(const QString &line)
         return false;
     bool isNumber = false;
     const int count = QStringView(line).sliced(pageCountKeyword.size()).toInt(&isNumber);
-    if (isNumber && count >= 1 && count <= mostPages)
+    if (isNumber && count >= 1 && count <= DocumentBounds::mostPages)
         m_reading.document.pageCount = count;
     else
         addProblem(lineNumber(m_at), tr("The number of pages cannot be right."));
@@ -146,7 +145,9 @@ bool DocumentReader::readPaper(const QString &line)
     QList<double> values;
     for (const QString &field : line.sliced(paperKeyword.size()).split(u' '))
         values.append(ItemRecords::toNumber(field).value_or(-1));
-    const auto fits = [](double value) { return value >= 0 && value <= longestSheet; };
+    const auto fits = [](double value) {
+        return value >= 0 && value <= DocumentBounds::longestSheet;
+    };
     if (values.size() == 6 && std::all_of(values.cbegin(), values.cend(), fits) && values[0] > 0 &&
         values[1] > 0)
         m_reading.document.paper =
@@ -158,10 +159,11 @@ bool DocumentReader::readPaper(const QString &line)
 
 void DocumentReader::addItem(const std::optional<ItemState::Any> &state, int line)
 {
-    if (state)
+    const QString problem = state ? m_bounds.problemOf(*state) : tr("This record cannot be read.");
+    if (problem.isEmpty())
         m_reading.document.items.append(ItemRecords::format(*state));
     else
-        addProblem(line, tr("This record cannot be read."));
+        addProblem(line, problem);
 }
 
 void DocumentReader::addProblem(int line, const QString &text)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DocumentBounds.h"
 #include "DocumentFile.h"
 #include "ItemState.h"
 
@@ -29,5 +30,6 @@ private:
 
     QStringList m_lines;
     qsizetype m_at = 0; ///< the line being read, from 0
+    DocumentBounds m_bounds;
     DocumentFile::Reading m_reading;
 };

@@ -31,6 +31,10 @@ constexpr int screenDotsPerInch = 96;
 constexpr int fewestDots = 10;
 constexpr int mostDots = 2400;
 
+// What Qt can paint on, and a sheet of A4 at the finest resolution.
+constexpr int longestPicture = 32767;
+constexpr qint64 mostPixels = 600'000'000;
+
 /** The finished drawing, which says how large its sheet is, for Qt goes by another resolution. */
 QByteArray finishedWithSheetSize(const QByteArray &svg, const QSize &dots)
 {
@@ -77,7 +81,7 @@ Exporter::Contents Exporter::contents(const QString &kind, const ExportOptions &
     if (kind == QLatin1String("pdf"))
         return pdf();
     const QByteArray bytes = kind == QLatin1String("png") ? png(options) : svg(options);
-    return Contents{bytes, tr("The picture is too large.")};
+    return Contents{bytes, tr("The picture would be too large. A lower resolution may help.")};
 }
 
 /** A printer writes a file of its own, so that is made aside and put in place when it is whole. */
@@ -112,7 +116,11 @@ QByteArray Exporter::png(const ExportOptions &options)
 {
     constexpr double inchesPerMetre = 1 / 0.0254;
     const PagePicture page(m_window, options.page, options.dotsPerInch);
-    QImage image(page.size(), QImage::Format_RGB32);
+    const QSize size = page.size();
+    if (qMax(size.width(), size.height()) > longestPicture ||
+        qint64(size.width()) * size.height() > mostPixels)
+        return QByteArray();
+    QImage image(size, QImage::Format_RGB32);
     if (image.isNull())
         return QByteArray();
     image.setDotsPerMeterX(qRound(options.dotsPerInch * inchesPerMetre));

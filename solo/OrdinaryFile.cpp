@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QLocale>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -19,18 +20,27 @@ QString reasonOf(int error, const QString &path)
     return qt_error_string(error);
 }
 
-/** Why this kind of file is not read; empty for an ordinary one. */
-QString objectionTo(const struct stat &info)
+/** Why this file is not read; empty for an ordinary one that is not too large. */
+QString objectionTo(const struct stat &info, qint64 largest)
 {
     if (S_ISDIR(info.st_mode))
         return QCoreApplication::translate("OrdinaryFile", "This is a folder.");
-    return S_ISREG(info.st_mode)
-               ? QString()
-               : QCoreApplication::translate("OrdinaryFile", "This is not an ordinary file.");
+    if (!S_ISREG(info.st_mode))
+        return QCoreApplication::translate("OrdinaryFile", "This is not an ordinary file.");
+    return OrdinaryFile::problemOfSize(info.st_size, largest);
 }
 } // namespace
 
-OrdinaryFile::Contents OrdinaryFile::read(const QString &path)
+QString OrdinaryFile::problemOfSize(qint64 bytes, qint64 largest)
+{
+    if (bytes <= largest)
+        return QString();
+    return QCoreApplication::translate(
+               "OrdinaryFile", "The file is too large: %1, where documents have at most %2.")
+        .arg(QLocale().formattedDataSize(bytes), QLocale().formattedDataSize(largest));
+}
+
+OrdinaryFile::Contents OrdinaryFile::read(const QString &path, qint64 largest)
 {
     const QByteArray name = QFile::encodeName(path);
     struct stat info
@@ -38,18 +48,19 @@ OrdinaryFile::Contents OrdinaryFile::read(const QString &path)
     // Even to open a device may do something to it, so what it is comes first.
     if (stat(name.constData(), &info) != 0)
         return Contents{{}, reasonOf(errno, path)};
-    if (const QString objection = objectionTo(info); !objection.isEmpty())
+    if (const QString objection = objectionTo(info, largest); !objection.isEmpty())
         return Contents{{}, objection};
     // Nobody is waited for if a pipe has taken its place since.
     const int descriptor = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0)
         return Contents{{}, reasonOf(errno, path)};
+    const bool isKnown = fstat(descriptor, &info) == 0;
+    const QString objection = isKnown ? objectionTo(info, largest) : qt_error_string(errno);
     QFile file;
-    if (fstat(descriptor, &info) != 0 || !S_ISREG(info.st_mode) ||
+    if (!objection.isEmpty() ||
         !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
         ::close(descriptor);
-        return Contents{
-            {}, QCoreApplication::translate("OrdinaryFile", "This is not an ordinary file.")};
+        return Contents{{}, objection.isEmpty() ? file.errorString() : objection};
     }
     const QByteArray bytes = file.readAll();
     return file.error() == QFileDevice::NoError ? Contents{bytes, QString()}

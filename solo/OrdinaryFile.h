@@ -1,5 +1,7 @@
 #pragma once
 
+#include "DocumentBounds.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -16,5 +18,9 @@ struct Contents
     QString error;
 };
 
-Contents read(const QString &path);
+/** What is wrong with a file of so many bytes; empty if nothing is. */
+QString problemOfSize(qint64 bytes, qint64 largest = DocumentBounds::largestFile);
+
+/** Reads a file of at most `largest` bytes. */
+Contents read(const QString &path, qint64 largest = DocumentBounds::largestFile);
 } // namespace OrdinaryFile

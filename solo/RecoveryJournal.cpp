@@ -13,6 +13,9 @@ namespace
 {
 const QByteArray header = QByteArrayLiteral("tonquill-recovery ");
 
+/** A document as large as any, and the journal's first line. */
+constexpr qint64 largestJournal = DocumentBounds::largestFile + 64 * 1024;
+
 constexpr QFile::Permissions ownersOnly = QFile::ReadOwner | QFile::WriteOwner;
 constexpr QFile::Permissions ownersFolder = ownersOnly | QFile::ExeOwner;
 } // namespace
@@ -50,7 +53,7 @@ bool RecoveryJournal::write(const DocumentSnapshot &document, const QString &pat
 
 std::optional<RecoveryJournal::Found> RecoveryJournal::find(const Paper &defaultPaper) const
 {
-    const QByteArray bytes = OrdinaryFile::read(m_file).bytes;
+    const QByteArray bytes = OrdinaryFile::read(m_file, largestJournal).bytes;
     const qsizetype firstEnd = bytes.indexOf('\n') + 1;
     const DocumentFile::Reading reading = DocumentFile::parse(bytes.sliced(firstEnd), defaultPaper);
     if (!bytes.startsWith(header) || !reading.isDocument)
@@ -62,7 +65,7 @@ std::optional<RecoveryJournal::Found> RecoveryJournal::find(const Paper &default
 
 QString RecoveryJournal::keepCopy() const
 {
-    const OrdinaryFile::Contents contents = OrdinaryFile::read(m_file);
+    const OrdinaryFile::Contents contents = OrdinaryFile::read(m_file, largestJournal);
     if (!contents.error.isEmpty())
         return QString();
     const QFileInfo info(m_file);
@@ -71,7 +74,7 @@ QString RecoveryJournal::keepCopy() const
     QString copy = begin + QStringLiteral(".tonquill");
     for (int i = 2; QFileInfo::exists(copy); ++i) {
         // A start that was cut short has made it already.
-        if (OrdinaryFile::read(copy).bytes == contents.bytes)
+        if (OrdinaryFile::read(copy, largestJournal).bytes == contents.bytes)
             return copy;
         copy = QStringLiteral("%1-%2.tonquill").arg(begin).arg(i);
     }

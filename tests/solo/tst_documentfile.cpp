@@ -1,7 +1,11 @@
 #include "DocumentFile.h"
 #include "FullDisk.h"
 #include "ItemRecords.h"
+#include "QuotedFields.h"
 #include "SoloTestMain.h"
+
+#include <QBuffer>
+#include <QImage>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -19,6 +23,11 @@ private Q_SLOTS:
     void saysWhatIsWrongAndOffersTheRest();
     void aFileHasUpToTenThousandPages_data();
     void aFileHasUpToTenThousandPages();
+    void whatAskedForTooMuchIsLeftOut_data();
+    void whatAskedForTooMuchIsLeftOut();
+    void aDocumentHasAnEnd_data();
+    void aDocumentHasAnEnd();
+    void whatCouldNotBeOpenedAgainIsNotSaved();
     void saysWhyAFileCannotBeOpened_data();
     void saysWhyAFileCannotBeOpened();
     void saysThatANameIsNotUtf8();
@@ -174,9 +183,106 @@ void DocumentFileTest::aFileHasUpToTenThousandPages()
     QCOMPARE(reading.document.pageCount, isTaken ? count.toInt() : 1);
 }
 
+void DocumentFileTest::whatAskedForTooMuchIsLeftOut_data()
+{
+    QTest::addColumn<QByteArray>("record");
+    QTest::addColumn<QString>("said");
+    const auto block = [](const QString &html) {
+        return "tonquill_textblock 1 2 0 0 90 20 wrap=89 font=\"Arial\" size=9 html=" +
+               QuotedFields::quoted(html).toUtf8();
+    };
+    const QString nested = "The parts of this text are nested too deeply.";
+    const QString tables = "The tables in this text are too large.";
+    const QString far = "The item is too large or too far away.";
+    QTest::newRow("22 tables in each other")
+        << block(QString("<table><tr><td>").repeated(22)) << nested;
+    QTest::newRow("8 tables in each other") << block(QString("<table><tr><td>").repeated(8)) << "";
+    QTest::newRow("5000 parts in each other")
+        << block(QString("<ul><li>").repeated(2500)) << nested;
+    QTest::newRow("100 cells that take 20000 columns")
+        << block("<table><tr>" + QString("<td colspan=20000>").repeated(100)) << tables;
+    QTest::newRow("cells that take 20000 rows")
+        << block("<table><tr>" + QString("<td rowspan=20000>").repeated(100)) << tables;
+    QTest::newRow("a table of 40 by 40")
+        << block("<table>" + ("<tr>" + QString("<td>").repeated(40)).repeated(40)) << "";
+    QTest::newRow("a table of 100 by 100")
+        << block("<table>" + ("<tr>" + QString("<td>").repeated(100)).repeated(100)) << tables;
+    QImage picture(10000, 7000, QImage::Format_Mono);
+    picture.fill(0);
+    QBuffer png;
+    QVERIFY(picture.save(&png, "PNG"));
+    QTest::newRow("a picture of 70 million pixels")
+        << block("<img src=\"data:image/png;base64," + png.data().toBase64() + "\">")
+        << "The pictures in this text are too large.";
+    QTest::newRow("tablature a billion high")
+        << QByteArray("tonquill_linetab 1 2 0 0 300 1000000000") << far;
+    QTest::newRow("tablature of 100 pages")
+        << QByteArray("tonquill_linetab 1 2 0 0 300 110000") << "";
+    QTest::newRow("a line to the left without end")
+        << QByteArray("tonquill_interactiveline 1 2 0 0 -1e300 1") << far;
+    QTest::newRow("a glyph somewhere else") << QByteArray("tonquill_bitmap 1 1e9 19") << far;
+    QTest::newRow("an anchor somewhere else")
+        << QByteArray("tonquill_notetie 1 2 0 0 9 9 anchors=\"0 0 1e9 0\"") << far;
+    QTest::newRow("a block without end")
+        << QByteArray("tonquill_textblock 1 2 0 0 90 1e9 wrap=89 font=\"Arial\" size=9 text=\"la\"")
+        << far;
+}
+
+void DocumentFileTest::whatAskedForTooMuchIsLeftOut()
+{
+    QFETCH(QByteArray, record);
+    QFETCH(QString, said);
+    QByteArray bytes = twoNotesFile;
+    bytes.replace("tonquill_bitmap 3 4 22", record);
+    const DocumentFile::Reading reading = DocumentFile::parse(bytes, a4);
+    QVERIFY(reading.isDocument);
+    QCOMPARE(reading.problemText(), said.isEmpty() ? QString() : "Line 5: " + said);
+    QCOMPARE(reading.document.items.size(), said.isEmpty() ? 2 : 1);
+}
+
+void DocumentFileTest::aDocumentHasAnEnd_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<int>("times");
+    QTest::addColumn<QString>("said");
+    QTest::newRow("too many items") << QByteArray("tonquill_bitmap 1 2 19\n") << 200'001
+                                    << "There are more items than a document can have.";
+    QTest::newRow("too many lines")
+        << QByteArray("x\n") << 1'000'001 << "The file is larger than any document.";
+    QTest::newRow("too many bytes")
+        << QByteArray(1 << 20, 'x') << 129 << "The file is larger than any document.";
+}
+
+void DocumentFileTest::aDocumentHasAnEnd()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(int, times);
+    QFETCH(QString, said);
+    const DocumentFile::Reading reading =
+        DocumentFile::parse("tonquill-document 1\n" + line.repeated(times) + "tonquill-end\n", a4);
+    QVERIFY2(reading.problemText().endsWith(said), qPrintable(reading.problemText()));
+    QCOMPARE(reading.problems.size(), 1);
+    QVERIFY(reading.document.items.size() <= 200'000);
+}
+
+void DocumentFileTest::whatCouldNotBeOpenedAgainIsNotSaved()
+{
+    const QString path = m_folder.filePath("large.tonquill");
+    QCOMPARE(DocumentFile::save(path, twoNotes()), QString());
+    DocumentSnapshot large = twoNotes();
+    large.items.append(QByteArray(DocumentFile::largestFile(), 'x'));
+    QVERIFY(DocumentFile::save(path, large).startsWith("The file is too large: "));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), twoNotesFile);
+}
+
 void DocumentFileTest::saysWhyAFileCannotBeOpened_data()
 {
     QTest::addColumn<QString>("path");
+    QFile sparse(m_folder.filePath("sparse.tonquill"));
+    QVERIFY(sparse.open(QIODevice::WriteOnly) && sparse.resize(60'000'000'000));
+    QTest::newRow("60 GB of nothing") << sparse.fileName();
     QTest::newRow("missing") << m_folder.filePath("missing.tonquill");
     QTest::newRow("folder") << m_folder.path();
     QFile empty(m_folder.filePath("empty.tonquill"));

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void aPictureHasTheSizeOfItsPaper();
     void saysInOneLineWhyItCannotExport_data();
     void saysInOneLineWhyItCannotExport();
+    void aDocumentThatCannotBeHadInMemoryIsSpokenOf();
     void tellsItsVersionAndItsOptions();
     void leavesARealHostInPeace();
     void aSecondStartHandsItsFileOver();
@@ -73,6 +74,14 @@ void ProgramTest::initTestCase()
                "tonquill_text 80 60 text=\"é ♭\" font=\"Arial\" size=12 color=#ff0000\n"
                "tonquill-end\n");
     file.close();
+    const auto makePaper = [this](const QString &name, const QByteArray &size) {
+        QFile paper(path(name));
+        QVERIFY(paper.open(QIODevice::WriteOnly));
+        paper.write("tonquill-document 1\ntonquill_paper " + size + " 0 0 " + size +
+                    "\ntonquill-end\n");
+    };
+    makePaper("large-paper.tonquill", "30000 30000");
+    makePaper("long-paper.tonquill", "88 30000"); // 333 inches
     QFile damaged(path("damaged.tonquill"));
     QVERIFY(damaged.open(QIODevice::WriteOnly));
     damaged.write("tonquill-document 1\nrubbish\nmore rubbish\n");
@@ -137,6 +146,12 @@ void ProgramTest::saysInOneLineWhyItCannotExport_data()
     QTest::newRow("absurd resolution")
         << QStringList{"--export", path("a.png"), "--dpi", "100000", document}
         << QByteArray("resolution");
+    QTest::newRow("a picture of 50,000 by 50,000 dots")
+        << QStringList{"--export", path("a.png"), path("large-paper.tonquill")}
+        << QByteArray("too large");
+    QTest::newRow("a picture that is too long")
+        << QStringList{"--export", path("a.png"), "--dpi", "100", path("long-paper.tonquill")}
+        << QByteArray("too large");
     QTest::newRow("folder that is not there")
         << QStringList{"--export", path("none/a.png"), document} << QByteArray("a.png");
     QTest::newRow("not an ordinary file")
@@ -165,6 +180,29 @@ void ProgramTest::saysInOneLineWhyItCannotExport()
     QCOMPARE(run(arguments, &errors), 1);
     QVERIFY2(errors.contains(said), errors);
     QCOMPARE(errors.count('\n'), 1);
+}
+
+void ProgramTest::aDocumentThatCannotBeHadInMemoryIsSpokenOf()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    QSKIP("the sanitizer needs more memory than there is itself");
+#endif
+    QFile file(path("heavy.tonquill"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    constexpr int megabytes = 120;
+    file.write("tonquill-document 1\n");
+    for (int i = 0; i < megabytes; ++i)
+        file.write(QByteArray(1 << 20, 'x'));
+    file.write("\ntonquill-end\n");
+    file.close();
+    QProcess process;
+    process.start("sh", {"-c", "ulimit -v 600000 && exec \"$0\" \"$@\"", program(), "--export",
+                         path("a.pdf"), file.fileName()});
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 1);
+    const QByteArray errors = process.readAllStandardError();
+    QVERIFY2(errors.contains("not enough memory"), errors);
 }
 
 void ProgramTest::tellsItsVersionAndItsOptions()

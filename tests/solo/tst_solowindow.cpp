@@ -48,6 +48,7 @@ private Q_SLOTS:
     void ctrlAndWheelZoomAtThePointer();
     void linesGrowWithTheZoomWhileItIsThere();
     void openingABrokenFileChangesNothing();
+    void aFileTooLargeToOpenChangesNothing();
     void partOfADamagedFileIsOffered();
     void aRecoveredDocumentIsUnsaved();
     void boxesShowNamesAsTheyStand_data();
@@ -402,6 +403,19 @@ void SoloWindowTest::openingABrokenFileChangesNothing()
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), QByteArray("no document\n"));
+}
+
+void SoloWindowTest::aFileTooLargeToOpenChangesNothing()
+{
+    placeNote();
+    QFile sparse(fileOf(QByteArray()));
+    QVERIFY(sparse.open(QIODevice::WriteOnly) && sparse.resize(60'000'000'000));
+    QString said;
+    answerBox(QMessageBox::AcceptRole, &said);
+    m_solo->files().openFile(sparse.fileName());
+    QVERIFY2(said.contains("The file is too large: "), qPrintable(said));
+    QCOMPARE(m_solo->session().edits().document().items.size(), 1);
+    QVERIFY(m_solo->session().isModified());
 }
 
 void SoloWindowTest::partOfADamagedFileIsOffered()

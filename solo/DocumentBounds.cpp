@@ -1,0 +1,87 @@
+#include "DocumentBounds.h"
+
+#include "EmbeddedPicture.h"
+#include "HtmlOutline.h"
+
+#include <QUrl>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+using namespace ItemState;
+
+bool isNear(double value)
+{
+    return std::fabs(value) <= DocumentBounds::farthest;
+}
+
+bool isNear(QPointF point)
+{
+    return isNear(point.x()) && isNear(point.y());
+}
+
+bool liesNear(const Glyph &item)
+{
+    return isNear(item.position);
+}
+
+bool liesNear(const TimeSignature &item)
+{
+    return isNear(item.position);
+}
+
+bool liesNear(const Figure &item)
+{
+    return isNear(item.position) && isNear(item.start) && isNear(item.end) &&
+           (!item.anchors || (isNear(item.anchors->first) && isNear(item.anchors->second)));
+}
+
+bool liesNear(const Text &item)
+{
+    return isNear(item.position);
+}
+
+bool liesNear(const TextBlock &item)
+{
+    return isNear(item.position) && isNear(item.topLeft) && isNear(item.bottomRight) &&
+           isNear(item.textWidth);
+}
+
+qint64 pixelsOf(const QStringList &pictures)
+{
+    qint64 pixels = 0;
+    for (const QString &address : pictures)
+        pixels += EmbeddedPicture::pixelsOf(EmbeddedPicture::bytesOf(QUrl(address)));
+    return pixels;
+}
+} // namespace
+
+QString DocumentBounds::problemOf(const Any &item)
+{
+    if (m_items >= mostItems)
+        return tr("There are more items than a document can have.");
+    if (!std::visit([](const auto &one) { return liesNear(one); }, item))
+        return tr("The item is too large or too far away.");
+    const auto *block = std::get_if<TextBlock>(&item);
+    const QString problem = block && block->isHtml ? problemOfHtml(block->text) : QString();
+    if (problem.isEmpty())
+        ++m_items;
+    return problem;
+}
+
+QString DocumentBounds::problemOfHtml(const QString &html)
+{
+    const HtmlOutline outline(html);
+    if (outline.depth() > deepestText || outline.tableDepth() > deepestTables)
+        return tr("The parts of this text are nested too deeply.");
+    if (m_cells + outline.cells() > mostCells)
+        return tr("The tables in this text are too large.");
+    const qint64 pixels = pixelsOf(outline.pictures());
+    if (m_pixels + pixels > mostPixels)
+        return tr("The pictures in this text are too large.");
+    m_cells += outline.cells();
+    m_pixels += pixels;
+    return QString();
+}
