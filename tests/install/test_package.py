@@ -18,8 +18,10 @@ class PackageTest(unittest.TestCase):
     def setUpClass(cls):
         folder = pathlib.Path(cls.enterClassContext(tempfile.TemporaryDirectory()))
         config = pathlib.Path(BUILD) / "CPackConfig.cmake"
+        # Whoever packs may keep their own files to themselves.
         subprocess.run(
-            [CPACK, "--config", config, "-B", folder], check=True, stdout=subprocess.DEVNULL
+            [CPACK, "--config", config, "-B", folder],
+            check=True, stdout=subprocess.DEVNULL, umask=0o077,
         )
         (cls.package,) = folder.glob("*.deb")
         cls.root = folder / "root"
@@ -60,6 +62,16 @@ class PackageTest(unittest.TestCase):
         for name in packed:
             self.assertEqual((share / name).read_bytes()[:2], b"\x1f\x8b", name)
         self.assertIn("Expat", (share / "doc/tonquill/copyright").read_text())
+
+    def test_everybody_may_read_what_is_packed(self):
+        command = [tool("dpkg-deb"), "--contents", self.package]
+        listing = subprocess.run(command, check=True, capture_output=True, text=True).stdout
+        kinds = {"-rw-r--r--", "-rwxr-xr-x", "drwxr-xr-x", "lrwxrwxrwx"}
+        packed = [line.split() for line in listing.splitlines()]
+        self.assertEqual([line for line in packed if line[0] not in kinds], [])
+        modes = {line[5]: line[0] for line in packed}
+        for name in ("copyright", "changelog.gz", "changelog.Debian.gz"):
+            self.assertEqual(modes[f"./usr/share/doc/tonquill/{name}"], "-rw-r--r--", name)
 
 
 if __name__ == "__main__":

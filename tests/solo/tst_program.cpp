@@ -1,6 +1,7 @@
 #include "HostMessages.h"
 #include "SoloTestMain.h"
 
+#include <QDirIterator>
 #include <QImage>
 #include <QLocalServer>
 #include <QProcess>
@@ -25,6 +26,7 @@ private Q_SLOTS:
     void tellsItsVersionAndItsOptions();
     void leavesARealHostInPeace();
     void aSecondStartHandsItsFileOver();
+    void theManualNamesTheJournalsFolder();
     void everyExampleIsWhole_data();
     void everyExampleIsWhole();
 
@@ -240,6 +242,31 @@ void ProgramTest::aSecondStartHandsItsFileOver()
                     .contains("two-pages"));
     first.kill();
     first.waitForFinished();
+}
+
+void ProgramTest::theManualNamesTheJournalsFolder()
+{
+    const QDir data(m_folder.filePath("data"));
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("XDG_DATA_HOME", data.path());
+    process.setProcessEnvironment(environment);
+    process.start(program(), QStringList());
+    // The journal's folder is the only one that the program makes there.
+    const auto made = [&data] {
+        QDirIterator folders(data.path(), QDir::Dirs | QDir::NoDotAndDotDot,
+                             QDirIterator::Subdirectories);
+        QString lowest;
+        while (folders.hasNext())
+            lowest = data.relativeFilePath(folders.next());
+        return lowest;
+    };
+    QTRY_COMPARE(made().count('/'), 1);
+    process.kill();
+    process.waitForFinished();
+    QFile manual(TONQUILL_MANUAL);
+    QVERIFY(manual.open(QIODevice::ReadOnly));
+    QVERIFY(manual.readAll().contains("\n.I ~/.local/share/" + made().toUtf8() + '\n'));
 }
 
 void ProgramTest::everyExampleIsWhole_data()
