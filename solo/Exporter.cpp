@@ -31,9 +31,24 @@ constexpr int screenDotsPerInch = 96;
 constexpr int fewestDots = 10;
 constexpr int mostDots = 2400;
 
-// What Qt can paint on, and a sheet of A4 at the finest resolution.
+/** Qt can paint on nothing that is longer. */
 constexpr int longestPicture = 32767;
+
+// A4 at the finest resolution, which is the user's wish. The size of the sheet is the document's:
+// beyond A0 a stranger's document must not cost that much.
 constexpr qint64 mostPixels = 600'000'000;
+constexpr qint64 mostPixelsBeyondA0 = 16'000'000;
+constexpr qint64 squareInchesOfA0 = 1550;
+
+/** True for a picture of dots that does not cost more memory than it may. */
+bool isPossible(const QSize &size, int dotsPerInch)
+{
+    const qint64 pixels = qint64(size.width()) * size.height();
+    const qint64 squareInch = qint64(dotsPerInch) * dotsPerInch;
+    const bool isBeyondA0 = pixels > squareInchesOfA0 * squareInch;
+    return qMax(size.width(), size.height()) <= longestPicture &&
+           pixels <= (isBeyondA0 ? mostPixelsBeyondA0 : mostPixels);
+}
 
 /** The finished drawing, which says how large its sheet is, for Qt goes by another resolution. */
 QByteArray finishedWithSheetSize(const QByteArray &svg, const QSize &dots)
@@ -116,11 +131,9 @@ QByteArray Exporter::png(const ExportOptions &options)
 {
     constexpr double inchesPerMetre = 1 / 0.0254;
     const PagePicture page(m_window, options.page, options.dotsPerInch);
-    const QSize size = page.size();
-    if (qMax(size.width(), size.height()) > longestPicture ||
-        qint64(size.width()) * size.height() > mostPixels)
+    if (!isPossible(page.size(), options.dotsPerInch))
         return QByteArray();
-    QImage image(size, QImage::Format_RGB32);
+    QImage image(page.size(), QImage::Format_RGB32);
     if (image.isNull())
         return QByteArray();
     image.setDotsPerMeterX(qRound(options.dotsPerInch * inchesPerMetre));

@@ -83,6 +83,7 @@ void ProgramTest::initTestCase()
                     "\ntonquill-end\n");
     };
     makePaper("large-paper.tonquill", "30000 30000");
+    makePaper("poster.tonquill", "4400 3600");
     makePaper("long-paper.tonquill", "88 30000"); // 333 inches
     QFile damaged(path("damaged.tonquill"));
     QVERIFY(damaged.open(QIODevice::WriteOnly));
@@ -150,6 +151,10 @@ void ProgramTest::saysInOneLineWhyItCannotExport_data()
         << QByteArray("resolution");
     QTest::newRow("a picture of 50,000 by 50,000 dots")
         << QStringList{"--export", path("a.png"), path("large-paper.tonquill")}
+        << QByteArray("too large");
+    // 50 by 40 inches, more than A0 has: 45 million dots.
+    QTest::newRow("a picture of a sheet beyond A0")
+        << QStringList{"--export", path("a.png"), path("poster.tonquill")}
         << QByteArray("too large");
     QTest::newRow("a picture that is too long")
         << QStringList{"--export", path("a.png"), "--dpi", "100", path("long-paper.tonquill")}
