@@ -11,12 +11,53 @@
         <source>Not everything could be written. Is the disk full?</source>
         <translation>Es konnte nicht alles geschrieben werden. Ist der Datenträger voll?</translation>
     </message>
+    <message>
+        <source>The file would get another owner or lose its other names if it were replaced, and what it holds cannot be kept safe while it is written: %1</source>
+        <translation>Beim Ersetzen bekäme die Datei einen anderen Besitzer oder verlöre ihre anderen Namen, und ihr Inhalt kann während des Schreibens nicht gesichert werden: %1</translation>
+    </message>
+    <message>
+        <source>%1
+The file is damaged now. What it held before is in “%2”.</source>
+        <translation>%1
+Die Datei ist jetzt beschädigt. Ihr früherer Inhalt steht in „%2“.</translation>
+    </message>
+    <message>
+        <source>The name has characters that are not UTF-8. Please choose another name.</source>
+        <translation>Der Name enthält Zeichen, die kein UTF-8 sind. Bitte wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>The file is write-protected.</source>
+        <translation>Die Datei ist schreibgeschützt.</translation>
+    </message>
 </context>
 <context>
     <name>BuiltInHost</name>
     <message>
         <source>%1 is in the way.</source>
         <translation>%1 ist im Weg.</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentBounds</name>
+    <message>
+        <source>There are more items than a document can have.</source>
+        <translation>Es sind mehr Elemente, als ein Dokument haben kann.</translation>
+    </message>
+    <message>
+        <source>The item is too large or too far away.</source>
+        <translation>Das Element ist zu groß oder zu weit entfernt.</translation>
+    </message>
+    <message>
+        <source>The parts of this text are nested too deeply.</source>
+        <translation>Die Teile dieses Textes sind zu tief verschachtelt.</translation>
+    </message>
+    <message>
+        <source>The tables in this text are too large.</source>
+        <translation>Die Tabellen in diesem Text sind zu groß.</translation>
+    </message>
+    <message>
+        <source>The pictures in this text are too large.</source>
+        <translation>Die Bilder in diesem Text sind zu groß.</translation>
     </message>
 </context>
 <context>
@@ -30,8 +71,8 @@
         <translation>… und %1 weitere.</translation>
     </message>
     <message>
-        <source>This is a folder.</source>
-        <translation>Das ist ein Ordner.</translation>
+        <source>There is not enough memory for this document.</source>
+        <translation>Für dieses Dokument reicht der Speicher nicht.</translation>
     </message>
 </context>
 <context>
@@ -72,6 +113,14 @@
         <source>This record cannot be read.</source>
         <translation>Dieser Eintrag ist nicht lesbar.</translation>
     </message>
+    <message>
+        <source>The file is larger than any document.</source>
+        <translation>Die Datei ist größer als jedes Dokument.</translation>
+    </message>
+    <message>
+        <source>The field “%1” is not known.</source>
+        <translation>Das Feld „%1“ ist nicht bekannt.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentSession</name>
@@ -95,12 +144,16 @@
         <translation>die Auflösung muss zwischen %1 und %2 liegen</translation>
     </message>
     <message>
-        <source>The picture is too large.</source>
-        <translation>Das Bild ist zu groß.</translation>
-    </message>
-    <message>
         <source>The temporary folder %1 does not take the pages. Is the disk full?</source>
         <translation>Der Ordner für Zwischendateien, %1, nimmt die Seiten nicht auf. Ist der Datenträger voll?</translation>
+    </message>
+    <message>
+        <source>%1: this is the document itself</source>
+        <translation>%1: das ist das Dokument selbst</translation>
+    </message>
+    <message>
+        <source>The picture would be too large. A lower resolution may help.</source>
+        <translation>Das Bild würde zu groß. Eine geringere Auflösung hilft vielleicht.</translation>
     </message>
 </context>
 <context>
@@ -166,28 +219,6 @@ Die Datei ist, wie sie vorher war.</translation>
     <message>
         <source>The PDF could not be written.</source>
         <translation>Das PDF konnte nicht geschrieben werden.</translation>
-    </message>
-    <message>
-        <source>a document without a name</source>
-        <translation>ein Dokument ohne Namen</translation>
-    </message>
-    <message>
-        <source>Tonquill ended unexpectedly. Recover the unsaved changes?</source>
-        <translation>Tonquill wurde unerwartet beendet. Die ungespeicherten Änderungen wiederherstellen?</translation>
-    </message>
-    <message>
-        <source>%1, %2.
-The file itself stays as it is until you save.</source>
-        <translation>%1, %2.
-Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
-    </message>
-    <message>
-        <source>Recover</source>
-        <translation>Wiederherstellen</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <translation>Verwerfen</translation>
     </message>
 </context>
 <context>
@@ -552,6 +583,99 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
 </context>
 <context>
+    <name>OrdinaryFile</name>
+    <message>
+        <source>Its name is not UTF-8. Give the file another name first.</source>
+        <translation>Ihr Name ist kein UTF-8. Geben Sie der Datei zuerst einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>This is a folder.</source>
+        <translation>Das ist ein Ordner.</translation>
+    </message>
+    <message>
+        <source>This is not an ordinary file.</source>
+        <translation>Das ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>The file is too large: %1, where documents have at most %2.</source>
+        <translation>Die Datei ist zu groß: %1; Dokumente haben höchstens %2.</translation>
+    </message>
+</context>
+<context>
+    <name>OutsideChange</name>
+    <message>
+        <source>“%1” was moved or deleted by another program.</source>
+        <translation>„%1“ wurde von einem anderen Programm verschoben oder gelöscht.</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program.</source>
+        <translation>„%1“ wurde von einem anderen Programm geändert.</translation>
+    </message>
+    <message>
+        <source>Saving writes it anew.</source>
+        <translation>Beim Speichern wird sie neu angelegt.</translation>
+    </message>
+    <message>
+        <source>Overwriting loses what that program wrote. Reloading loses what you have changed here.</source>
+        <translation>Beim Überschreiben geht verloren, was jenes Programm geschrieben hat, beim Neuladen, was Sie hier geändert haben.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>Überschreiben</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Speichern unter …</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Neu laden</translation>
+    </message>
+    <message>
+        <source>What the window shows is no longer saved anywhere.</source>
+        <translation>Was das Fenster zeigt, ist nirgends mehr gespeichert.</translation>
+    </message>
+    <message>
+        <source>Reload it, and lose what you have changed here?</source>
+        <translation>Neu laden und verlieren, was Sie hier geändert haben?</translation>
+    </message>
+    <message>
+        <source>Reload it?</source>
+        <translation>Neu laden?</translation>
+    </message>
+    <message>
+        <source>Keep What Is Here</source>
+        <translation>Behalten, was hier ist</translation>
+    </message>
+</context>
+<context>
+    <name>PageControls</name>
+    <message>
+        <source>Delete Page %1</source>
+        <translation>Seite %1 löschen</translation>
+    </message>
+    <message>
+        <source>At the Beginning</source>
+        <translation>Am Anfang</translation>
+    </message>
+    <message>
+        <source>Before The Current Page</source>
+        <translation>Vor der aktuellen Seite</translation>
+    </message>
+    <message>
+        <source>After The Current Page</source>
+        <translation>Nach der aktuellen Seite</translation>
+    </message>
+    <message>
+        <source>At the End</source>
+        <translation>Am Ende</translation>
+    </message>
+</context>
+<context>
     <name>PagePrinter</name>
     <message>
         <source>The pages could not be printed.</source>
@@ -725,6 +849,80 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
     </message>
 </context>
 <context>
+    <name>RecoveryJournal</name>
+    <message>
+        <source>Nothing can be written to the folder %1.</source>
+        <translation>In den Ordner %1 kann nichts geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryOffer</name>
+    <message>
+        <source>Until this file is moved away, no other changes are kept for recovery:</source>
+        <translation>Solange diese Datei dort liegt, werden keine anderen Änderungen zur Wiederherstellung aufgehoben:</translation>
+    </message>
+    <message>
+        <source>It is kept in this file:</source>
+        <translation>Es liegt in dieser Datei:</translation>
+    </message>
+    <message>
+        <source>Tonquill ended unexpectedly, and what was not saved cannot be read.</source>
+        <translation>Tonquill wurde unerwartet beendet, und was nicht gespeichert war, ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>a document without a name</source>
+        <translation>ein Dokument ohne Namen</translation>
+    </message>
+    <message>
+        <source>%1, %2.
+The file itself stays as it is until you save.</source>
+        <translation>%1, %2.
+Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
+    </message>
+    <message>
+        <source>Tonquill ended unexpectedly. Recover the unsaved changes?</source>
+        <translation>Tonquill wurde unerwartet beendet. Die ungespeicherten Änderungen wiederherstellen?</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Not everything can be read:</source>
+        <translation>Nicht alles ist lesbar:</translation>
+    </message>
+    <message>
+        <source>All that was kept is in this file:</source>
+        <translation>Alles, was aufgehoben war, liegt in dieser Datei:</translation>
+    </message>
+</context>
+<context>
+    <name>SaveDialog</name>
+    <message>
+        <source>“%1” exists already.</source>
+        <translation>„%1“ gibt es schon.</translation>
+    </message>
+    <message>
+        <source>Replacing it loses what it holds now.</source>
+        <translation>Beim Ersetzen geht der jetzige Inhalt verloren.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+</context>
+<context>
+    <name>SingleInstance</name>
+    <message>
+        <source>Nothing can be written to the folder %1.</source>
+        <translation>In den Ordner %1 kann nichts geschrieben werden.</translation>
+    </message>
+</context>
+<context>
     <name>SoloApplication</name>
     <message>
         <source>A sketch pad for music notation, with files of its own.</source>
@@ -755,10 +953,6 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
         <translation>--export braucht ein Dokument</translation>
     </message>
     <message>
-        <source>another Tonquill is running and does not answer</source>
-        <translation>ein anderes Tonquill läuft und antwortet nicht</translation>
-    </message>
-    <message>
         <source>A host for Tonquill is running already.</source>
         <translation>Ein Wirtsprogramm für Tonquill läuft schon.</translation>
     </message>
@@ -774,12 +968,28 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
         <source>The toolbar&apos;s undo and redo cannot be used; the menu&apos;s can.</source>
         <translation>„Rückgängig“ und „Wiederholen“ der Werkzeugleiste sind nicht verfügbar, die des Menüs schon.</translation>
     </message>
+    <message>
+        <source>Another start of Tonquill will not find this window.</source>
+        <translation>Ein weiterer Start von Tonquill findet dieses Fenster nicht.</translation>
+    </message>
+    <message>
+        <source>Another Tonquill is running and does not answer.</source>
+        <translation>Ein anderes Tonquill läuft und antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>It may open “%1” later.</source>
+        <translation>Es öffnet „%1“ vielleicht später.</translation>
+    </message>
 </context>
 <context>
     <name>SoloWindow</name>
     <message>
         <source>%1[*] – Tonquill</source>
         <translation>%1[*] – Tonquill</translation>
+    </message>
+    <message>
+        <source>Unsaved changes cannot be kept for recovery after a crash.</source>
+        <translation>Ungespeicherte Änderungen können nicht für die Wiederherstellung nach einem Absturz aufgehoben werden.</translation>
     </message>
 </context>
 <context>
