@@ -8,10 +8,9 @@
 #include <QPainter>
 #include <QPrintPreviewWidget>
 
-/** The paper of the preview's first page, without the desk on which it lies. */
-inline QImage paperIn(const QPrintPreviewWidget &preview)
+/** The paper of the preview's first page at this zoom, without the desk on which it lies. */
+inline QImage paperIn(const QPrintPreviewWidget &preview, qreal zoom = 3.0)
 {
-    constexpr qreal zoom = 3.0;
     QGraphicsScene *desk = preview.findChild<QGraphicsView *>()->scene();
     const QRectF page = desk->items().constFirst()->sceneBoundingRect();
     QImage image((page.size() * zoom).toSize(), QImage::Format_RGB32);

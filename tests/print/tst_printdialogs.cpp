@@ -20,21 +20,6 @@ constexpr int previewButton = 3;
 constexpr int pageSetupButton = 4;
 constexpr int printButton = 5;
 
-/** The paper of the preview's first page, without the desk on which it lies. */
-QImage paperIn(const QPrintPreviewWidget &preview, qreal zoom)
-{
-    QGraphicsScene *desk = preview.findChild<QGraphicsView *>()->scene();
-    const QRectF page = desk->items().constFirst()->sceneBoundingRect();
-    QImage image((page.size() * zoom).toSize(), QImage::Format_RGB32);
-    QPainter painter(&image);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    desk->render(&painter, image.rect(), page);
-    painter.end();
-    QImage white = image;
-    white.invertPixels();
-    return image.copy(inkOf(white, 0).toRect());
-}
-
 /** How much ink a picture has: a pixel that is all black counts as 1. */
 double amountOfInk(const QImage &picture)
 {
