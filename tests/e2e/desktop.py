@@ -118,6 +118,16 @@ class Window:
         self.desktop.xdotool("windowactivate", self.id)
         wait_until(lambda: self.desktop.active_window() == self.id, "the window has the keyboard")
 
+    def resized(self, size):
+        """Gives the window this width and height; returns it as it is then."""
+        self.desktop.xdotool("windowsize", "--sync", self.id, *size)
+
+        def find():
+            window = Window(self.desktop, self.id)
+            return window.size == size and window
+
+        return wait_until(find, f"the window has the size {size}")
+
     def move(self, point):
         """Puts the pointer on this point of the window."""
         self.desktop.move(self.origin[0] + point[0], self.origin[1] + point[1])

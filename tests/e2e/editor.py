@@ -15,16 +15,22 @@ class Program:
     Points of the page are in scene units, as in the records.
     """
 
-    def __init__(self, desktop, command, layout, title, log):
+    def __init__(self, desktop, command, layout, title, log, size=None):
         self.desktop = desktop
         self._layout = layout
         self._log = log
         self.process = desktop.start(command, log=log)
         self.window = desktop.window(self.process, title)
+        if size:
+            self.window = self.window.resized(size)
         wanted = self._layout["window"]
         if self.window.size != (wanted["width"], wanted["height"]):
             raise AssertionError(f"the window has the size {self.window.size}, not {wanted}")
         self.window.picture_at_rest()
+
+    def place(self, object_name):
+        """Where the viewport or a page control is in the window: left, top, width, height."""
+        return _values((self._layout["controls"] | self._layout)[object_name])
 
     def log(self):
         """What the program has written to its output so far."""
@@ -123,6 +129,23 @@ class EditorWithDocument(Editor):
 
     def tell(self):
         """Has the program tell its document; here it does so by itself when an edit ends."""
+
+
+class SoloInSize(Program):
+    """tonquill-solo with a file of its own, in a window of this width and height."""
+
+    def __init__(self, desktop, programs, file, size):
+        programs = pathlib.Path(programs)
+        dump = [programs / "tonquill-layoutdump", "--solo", "--size", *map(str, size)]
+        layout = json.loads(desktop.run(dump).stdout)
+        command = [programs / "tonquill-solo", file]
+        super().__init__(desktop, command, layout, rf"^{file.name} –", "solo.log", size)
+
+    def picture_after(self, key):
+        """Presses a key that is seen in the window; returns what the window then shows."""
+        before = self.window.picture_at_rest()
+        self.desktop.key(key)
+        return self.window.picture_at_rest(other_than=before)
 
 
 class SoloWithDocument(Program):

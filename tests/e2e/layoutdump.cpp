@@ -48,7 +48,7 @@ void addButtons(QJsonObject &buttons, const TonquillMainWin &window, const QStri
 QJsonObject pageControls(const TonquillMainWin &window)
 {
     QJsonObject controls;
-    for (const char *name : {"pb_insertPage", "pb_deletePAge", "sb_page"}) {
+    for (const char *name : {"pb_insertPage", "pb_deletePAge", "sb_page", "lbl_page"}) {
         const QString objectName = QString::fromLatin1(name);
         controls.insert(objectName, toJson(rectInWindow(*window.findChild<QWidget *>(objectName))));
     }
@@ -75,13 +75,25 @@ QJsonObject layout(const TonquillMainWin &window)
             {QStringLiteral("controls"), pageControls(window)}};
 }
 
-/** Prints the layout of the window, which is shown, once it has come to rest. */
-void printLayout(const TonquillMainWin &window)
+/** The size that the arguments name; not valid if they leave the window its own. */
+QSize wantedSize(const QStringList &arguments)
 {
+    const auto option = arguments.indexOf(QStringLiteral("--size"));
+    return option < 0
+               ? QSize()
+               : QSize(arguments.value(option + 1).toInt(), arguments.value(option + 2).toInt());
+}
+
+/** Prints the layout of the window, which is shown, once it has this size and come to rest. */
+void printLayout(TonquillMainWin &window, QSize size)
+{
+    if (size.isValid())
+        window.resize(size);
     QTimer timer;
     QJsonObject last;
     QObject::connect(&timer, &QTimer::timeout, &window, [&] {
-        if (!window.windowHandle()->isExposed() || !window.isActiveWindow())
+        if (!window.windowHandle()->isExposed() || !window.isActiveWindow() ||
+            (size.isValid() && size != window.size()))
             return;
         const QJsonObject now = layout(window);
         if (now == last)
@@ -96,22 +108,25 @@ void printLayout(const TonquillMainWin &window)
 } // namespace
 
 /**
- * Shows the main window as tonquill does, or with --solo as tonquill-solo does, prints its layout
- * as JSON and ends: so a test knows where to click, and the programs need no way to be asked.
+ * Shows the main window as tonquill does, or with --solo as tonquill-solo does, in the size that
+ * `--size WIDTH HEIGHT` gives it, prints its layout as JSON and ends: so a test knows where to
+ * click, and the programs need no way to be asked.
  */
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    if (QCoreApplication::arguments().contains(QStringLiteral("--solo"))) {
+    const QStringList arguments = QCoreApplication::arguments();
+    const QSize size = wantedSize(arguments);
+    if (arguments.contains(QStringLiteral("--solo"))) {
         const QTemporaryDir journal;
         SoloWindow solo(journal.path());
         solo.show();
-        printLayout(solo.window());
+        printLayout(solo.window(), size);
     } else {
         TonquillMainWin window;
         window.showNormal();
         window.raise();
-        printLayout(window);
+        printLayout(window, size);
     }
     return 0;
 }

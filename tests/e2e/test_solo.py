@@ -4,10 +4,8 @@ import pathlib
 import sys
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "e2e"))
-
-from desktop import Desktop  # noqa: E402
-from workbench import stop_after, wait_until  # noqa: E402
+from desktop import Desktop
+from workbench import stop_after, wait_until
 
 PROGRAMS, PICTURES = map(pathlib.Path, (sys.argv.pop(1), sys.argv.pop(1)))
 

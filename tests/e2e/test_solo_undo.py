@@ -1,14 +1,12 @@
 """Undo with a hand: what is selected afterwards is whole, so that the next drag moves all of it."""
 
-import json
 import pathlib
 import sys
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "e2e"))
-
-from desktop import Desktop, Window  # noqa: E402
-from workbench import stop_after, wait_until  # noqa: E402
+from desktop import Desktop
+from editor import SoloInSize
+from workbench import stop_after, wait_until
 
 PROGRAMS, PICTURES = map(pathlib.Path, (sys.argv.pop(1), sys.argv.pop(1)))
 
@@ -40,33 +38,20 @@ class SoloUndoTest(unittest.TestCase):
     def setUp(self):
         PICTURES.mkdir(parents=True, exist_ok=True)
         self.desktop = self.enterContext(Desktop())
-        layout = self.desktop.run([PROGRAMS / "tonquill-sololayoutdump", *map(str, SIZE)])
-        left, top, width, _ = json.loads(layout.stdout)["viewport"]
-        self.origin = left + (width - WIDTH) // 2, top
         self.file = self.desktop.folder / "song.tonquill"
         lines = ["tonquill-document 1", "tonquill_pagecount 1", PAPER, *records(BARS + ALONE)]
         self.file.write_text("\n".join([*lines, "tonquill-end", ""]))
-        self.program = self.desktop.start([PROGRAMS / "tonquill-solo", self.file], log="solo.log")
-        first = self.titled("")
-        self.desktop.xdotool("windowsize", "--sync", first.id, *SIZE)
-        self.window = wait_until(lambda: self.of_size(first.id), "the window's size")
-        self.window.picture_at_rest()
+        self.program = SoloInSize(self.desktop, PROGRAMS, self.file, SIZE)
+        self.window = self.program.window
+        left, top, width, _ = self.program.place("viewport")
+        self.origin = left + (width - WIDTH) // 2, top
 
     def titled(self, mark):
-        return self.desktop.window(self.program, rf"^song\.tonquill{mark} –")
-
-    def of_size(self, identifier):
-        window = Window(self.desktop, identifier)
-        return window if window.size == SIZE else None
+        return self.desktop.window(self.program.process, rf"^song\.tonquill{mark} –")
 
     def at(self, x, y):
         """The point of the window that shows this point of the page."""
         return self.origin[0] + x, self.origin[1] + y
-
-    def key_that_shows(self, key):
-        before = self.window.picture_at_rest()
-        self.desktop.key(key)
-        self.window.picture_at_rest(other_than=before)
 
     def types_with_ctrl(self, letter):
         """The letter goes up before Ctrl: xdotool's own "ctrl+c" lets Ctrl go first."""
@@ -100,7 +85,7 @@ class SoloUndoTest(unittest.TestCase):
         self.window.picture().save(PICTURES / "solo-undo.png")
         wait_until(lambda: self.window.picture() == selected, "the selection is what it was")
 
-        self.key_that_shows("ctrl+shift+z")
+        self.program.picture_after("ctrl+shift+z")
         both = records(BARS) + records(BARS, PASTED, PASTED) + records(ALONE)
         self.assertEqual(self.saved(len(both)), sorted(both))
         self.desktop.key("ctrl+z")
@@ -112,7 +97,7 @@ class SoloUndoTest(unittest.TestCase):
 
         # Back where they were and there again, all of them are still selected.
         dragged = self.window.picture_at_rest()
-        self.key_that_shows("ctrl+z")
+        self.program.picture_after("ctrl+z")
         wait_until(lambda: self.window.picture() == selected, "the selection came back")
         self.desktop.key("ctrl+y")
         wait_until(lambda: self.window.picture() == dragged, "the selection went along")

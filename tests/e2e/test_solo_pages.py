@@ -1,14 +1,12 @@
 """The page controls of the program of its own: the page that is gone to is the one deleted."""
 
-import json
 import pathlib
 import sys
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "e2e"))
-
-from desktop import Desktop, Window  # noqa: E402
-from workbench import stop_after, wait_until  # noqa: E402
+from desktop import Desktop
+from editor import SoloInSize
+from workbench import stop_after
 
 PROGRAMS, PICTURES = map(pathlib.Path, (sys.argv.pop(1), sys.argv.pop(1)))
 
@@ -29,32 +27,20 @@ class SoloPagesTest(unittest.TestCase):
     def start(self, desktop_size, window_size, items, zoom=None):
         """The program with a page for each item, in a window of this size."""
         self.desktop = self.enterContext(Desktop(*desktop_size))
-        layout = self.desktop.run([PROGRAMS / "tonquill-sololayoutdump", *map(str, window_size)])
-        self.layout = json.loads(layout.stdout)
         self.file = self.desktop.folder / "song.tonquill"
         lines = ["tonquill-document 1", f"tonquill_pagecount {len(items)}", PAPER, *items]
         self.file.write_text("\n".join([*lines, "tonquill-end", ""]))
-        program = self.desktop.start([PROGRAMS / "tonquill-solo", self.file], log="solo.log")
-        self.titled = lambda name: self.desktop.window(program, name)
-        first = self.titled(r"^song\.tonquill –")
-        self.desktop.xdotool("windowsize", "--sync", first.id, *window_size)
-        self.window = wait_until(lambda: self.of_size(first.id, window_size), "the window's size")
+        self.program = SoloInSize(self.desktop, PROGRAMS, self.file, window_size)
+        self.window = self.program.window
         for _ in range(3 if zoom else 0):
-            before = self.window.picture_at_rest()
-            self.desktop.key(zoom)
-            self.window.picture_at_rest(other_than=before)
+            self.program.picture_after(zoom)
 
-    def of_size(self, identifier, size):
-        window = Window(self.desktop, identifier)
-        return window if window.size == tuple(size) else None
-
-    def click(self, control):
-        left, top, width, height = self.layout[control]
-        self.window.click((left + width // 2, top + height // 2))
+    def titled(self, name):
+        return self.desktop.window(self.program.process, name)
 
     def goes_to(self, page):
         """Clicks into the box left of its arrows and types the number over what is there."""
-        left, top, _, height = self.layout["sb_page"]
+        left, top, _, height = self.program.place("sb_page")
         before = self.window.picture_at_rest()
         self.window.double_click((left + 10, top + height // 2))
         self.desktop.type_text(str(page))
@@ -63,7 +49,7 @@ class SoloPagesTest(unittest.TestCase):
     def goes_to_page_2_and_deletes_it(self, picture):
         self.goes_to(2)
         self.window.picture().save(PICTURES / f"solo-pages-{picture}.png")
-        self.click("pb_deletePAge")
+        self.program.click_control("pb_deletePAge")
         self.titled(r"^song\.tonquill\* –")
         self.desktop.key("ctrl+s")
         self.titled(r"^song\.tonquill –")
