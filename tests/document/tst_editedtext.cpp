@@ -1,10 +1,12 @@
 #include "EditorWindow.h"
+#include "ModalAnswer.h"
 #include "PaintRecorder.h"
 #include "ProbeItems.h"
 #include "TestHost.h"
 #include "TestMain.h"
 #include "TonquillTextBlock.h"
 
+#include <QKeyEvent>
 #include <QTextCursor>
 
 namespace
@@ -23,7 +25,10 @@ constexpr int partsOfEditing[] = {Qt::TextSelectableByMouse, Qt::TextSelectableB
                                   Qt::TextEditable};
 } // namespace
 
-/** The pointer while a block is edited on the page: inside the block it belongs to the editor. */
+/**
+ * The pointer and the keys while a block is edited on the page and another item is selected too:
+ * inside the block the pointer belongs to the editor.
+ */
 class EditedTextTest : public QObject
 {
     Q_OBJECT
@@ -39,13 +44,19 @@ private Q_SLOTS:
     void pressElsewhereEndsEditing();
     void moveInsideGoesToTheEditorAlone();
     void moveElsewhereGoesToAllSelected();
+    void dragOutOfTheBlockMarksItsText_data();
+    void dragOutOfTheBlockMarksItsText();
     void releaseInsideGoesToTheEditorAndThenOn_data();
     void releaseInsideGoesToTheEditorAndThenOn();
     void rightReleaseInsideOpensOneMenu_data();
     void rightReleaseInsideOpensOneMenu();
     void blockThatIsNotSelectedIsLikeAnyItem();
+    void pressedKeyFitsTheBlock();
+    void releasedKeyFitsTheBlock();
 
 private:
+    void sendKey(QEvent::Type type);
+    void isFitted();
     bool isRubberBandShown();
     int documentsSent();
 
@@ -140,7 +151,11 @@ void EditedTextTest::pressInsidePutsTheTextCursor()
     m_block->setTextCursor(cursor);
     m_editor->pointer.press(leftOfText);
     QCOMPARE(m_block->textCursor().position(), 0);
+    m_editor->pointer.press(rightOfText);
+    QCOMPARE(m_block->textCursor().position(), 3);
+    QCOMPARE(m_log.takeAll(), QStringList());
     QCOMPARE(m_block->itemStatus(), 0);
+    QVERIFY(TonquillTextBlock::isEdited(*m_block));
 }
 
 void EditedTextTest::pressElsewhereEndsEditing_data()
@@ -187,6 +202,30 @@ void EditedTextTest::moveElsewhereGoesToAllSelected()
     QCOMPARE(m_block->pos(), QPointF(80, 400));
 }
 
+void EditedTextTest::dragOutOfTheBlockMarksItsText_data()
+{
+    QTest::addColumn<QPointF>("from");
+    QTest::addColumn<QPointF>("to");
+    QTest::addColumn<QString>("marked");
+    QTest::newRow("beyond the right edge") << leftOfText << QPointF(430, 410) << "abc";
+    QTest::newRow("beyond the left edge") << rightOfText << leftOfText - QPointF(60, 0) << "abc";
+    QTest::newRow("above") << rightOfText << leftOfText - QPointF(0, 90) << "abc";
+    // The record has given the text a line break at its end.
+    QTest::newRow("below") << leftOfText << rightOfText + QPointF(0, 90)
+                           << QString("abc") + QChar(QChar::ParagraphSeparator);
+}
+
+void EditedTextTest::dragOutOfTheBlockMarksItsText()
+{
+    QFETCH(QPointF, from);
+    QFETCH(QPointF, to);
+    m_editor->pointer.drag(from, to);
+    QTEST(m_block->textCursor().selectedText(), "marked");
+    QCOMPARE(m_block->pos(), QPointF(80, 400));
+    QCOMPARE(m_block->itemStatus(), 0);
+    QVERIFY(TonquillTextBlock::isEdited(*m_block));
+}
+
 void EditedTextTest::releaseInsideGoesToTheEditorAndThenOn_data()
 {
     QTest::addColumn<QPointF>("point");
@@ -216,23 +255,15 @@ void EditedTextTest::rightReleaseInsideOpensOneMenu_data()
     QTest::newRow("with the grab of an earlier drag") << true;
 }
 
-/** A menu that opened would block, so each is closed and counted. */
 void EditedTextTest::rightReleaseInsideOpensOneMenu()
 {
     QFETCH(bool, hasGrab);
     if (hasGrab)
         m_block->grabMouse();
-    int opened = 0;
-    QTimer watch;
-    connect(&watch, &QTimer::timeout, this, [&opened] {
-        if (QWidget *popup = QApplication::activePopupWidget()) {
-            ++opened;
-            popup->close();
-        }
+    const int opened = ModalAnswer::menusDuring([this] {
+        m_editor->pointer.press(inside, Qt::RightButton);
+        m_editor->pointer.release(inside, Qt::RightButton);
     });
-    watch.start(0);
-    m_editor->pointer.press(inside, Qt::RightButton);
-    m_editor->pointer.release(inside, Qt::RightButton);
     QCOMPARE(opened, 1);
     QCOMPARE(documentsSent(), 0);
 }
@@ -249,6 +280,43 @@ void EditedTextTest::blockThatIsNotSelectedIsLikeAnyItem()
     m_editor->pointer.moveTo(inside);
     m_editor->pointer.press(emptySpace);
     QCOMPARE(m_block->textInteractionFlags(), Qt::TextEditorInteraction);
+}
+
+void EditedTextTest::sendKey(QEvent::Type type)
+{
+    QKeyEvent event(type, Qt::Key_W, Qt::NoModifier, "w");
+    QCoreApplication::sendEvent(&m_editor->scene(), &event);
+}
+
+/** The block is as large as its text, and its frame's lower right anchor is in its corner. */
+void EditedTextTest::isFitted()
+{
+    const QRectF text = m_block->QGraphicsTextItem::boundingRect();
+    QCOMPARE(m_block->boundingRect(), text);
+    QPointF anchor;
+    QCOMPARE(ItemProbe::frameOf(*m_block)->getAnchor(text.bottomRight(), anchor), 1);
+    QCOMPARE(anchor, text.bottomRight());
+}
+
+void EditedTextTest::pressedKeyFitsTheBlock()
+{
+    QTextCursor cursor = m_block->textCursor();
+    cursor.setPosition(3);
+    m_block->setTextCursor(cursor);
+    sendKey(QEvent::KeyPress);
+    isFitted();
+    const double narrow = m_block->boundingRect().width();
+    sendKey(QEvent::KeyPress);
+    QVERIFY(m_block->boundingRect().width() > narrow);
+    isFitted();
+}
+
+void EditedTextTest::releasedKeyFitsTheBlock()
+{
+    QCOMPARE(m_block->boundingRect(), QRectF(0, 0, 241, 60));
+    sendKey(QEvent::KeyRelease);
+    QCOMPARE(m_block->toPlainText(), QString("abc\n"));
+    isFitted();
 }
 
 TONQUILL_TEST_MAIN(EditedTextTest)

@@ -33,6 +33,22 @@ void whenOpen(const std::function<void(Window &)> &act)
     });
 }
 
+/** How many menus open while `act` runs; each is closed, for it would block. */
+inline int menusDuring(const std::function<void()> &act)
+{
+    int opened = 0;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &watch, [&opened] {
+        if (QWidget *popup = QApplication::activePopupWidget()) {
+            ++opened;
+            popup->close();
+        }
+    });
+    watch.start(0);
+    act();
+    return opened;
+}
+
 /** Chooses an entry of an open menu as the keyboard does. */
 inline void choose(QMenu &menu, int entry)
 {
