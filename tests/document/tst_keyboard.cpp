@@ -1,38 +1,19 @@
-#include "EditorWindow.h"
-#include "TestHost.h"
+#include "KeysInEditor.h"
 #include "TestMain.h"
-#include "TonquillBitmap.h"
 #include "TonquillText.h"
-#include "TonquillTextBlock.h"
 
 #include <QAction>
-#include <QKeyEvent>
 #include <QTextCursor>
 #include <QTextDocument>
 
-namespace
-{
-const QString glyph = QStringLiteral("tonquill_bitmap 2 120 300 0\n");
-const QString block =
-    QStringLiteral("tonquill_textblock_begin 80 400 240 60\nabc\ntonquill_textblock_end\n");
-
-void sendKey(QObject &receiver, QEvent::Type type, int key,
-             Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString &text = QString(),
-             bool autoRepeat = false)
-{
-    QKeyEvent event(type, key, modifiers, text, autoRepeat);
-    QCoreApplication::sendEvent(&receiver, &event);
-}
-} // namespace
-
 /** The keys, as the view and as the scene get them. */
-class KeyboardTest : public QObject
+class KeyboardTest : public QObject, KeysInEditor
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { openEditor(); }
+    void cleanup() { closeEditor(); }
     void ctrlShowsRestsWhileItIsHeld_data();
     void ctrlShowsRestsWhileItIsHeld();
     void ctrlIsLetGoWithTheFocus();
@@ -47,17 +28,6 @@ private Q_SLOTS:
     void aHeldDeleteTellsTheHostOnce();
     void deleteActsOnRelease();
     void backspaceInABlockDeletesALetter();
-    void copyingTwiceMakesTwoOfEach();
-    void pasteStandsBesideTheRecordedPlace_data();
-    void pasteStandsBesideTheRecordedPlace();
-    void copyAndPasteActOnRelease();
-    void copyAndPasteWhenCtrlGoesFirst();
-    void letterAloneDoesNotPaste_data();
-    void letterAloneDoesNotPaste();
-    void heldPasteEndsWithCtrl();
-    void copyAndPasteInABlockActOnItsText();
-    void copyLeavesOutItemsWithoutARecord();
-    void pastingNothingDoesNothing();
     void spaceWithoutALastItemDoesNothing();
     void spaceRepeatsTheLastItem();
     void spaceRepeatsTheLastItemOfADocument();
@@ -73,75 +43,7 @@ private Q_SLOTS:
     void f5ForgetsTheQuickTextBlock();
     void nudgesPasteAndTypingTellTheHostNothing();
     void otherKeysAreLeftToTheToolkit();
-
-private:
-    void keyPress(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    void keyRelease(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    void keyClick(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    void type(QChar letter);
-    TonquillBitmap *selectedGlyph();
-    TonquillTextBlock *editedBlock();
-    QList<QGraphicsItem *> items() { return ItemProbe::documentItems(m_editor->scene()); }
-
-    std::unique_ptr<TestHost> m_host;
-    std::unique_ptr<EditorWindow> m_editor;
 };
-
-void KeyboardTest::init()
-{
-    m_host = std::make_unique<TestHost>();
-    m_editor = std::make_unique<EditorWindow>();
-    QTRY_COMPARE(m_host->messages.size(), 1);
-    m_host->messages.clear();
-}
-
-void KeyboardTest::cleanup()
-{
-    m_editor.reset();
-    m_host.reset();
-}
-
-void KeyboardTest::keyPress(int key, Qt::KeyboardModifiers modifiers)
-{
-    QTest::keyPress(&m_editor->view(), static_cast<Qt::Key>(key), modifiers);
-}
-
-void KeyboardTest::keyRelease(int key, Qt::KeyboardModifiers modifiers)
-{
-    QTest::keyRelease(&m_editor->view(), static_cast<Qt::Key>(key), modifiers);
-}
-
-void KeyboardTest::keyClick(int key, Qt::KeyboardModifiers modifiers)
-{
-    keyPress(key, modifiers);
-    keyRelease(key, modifiers);
-}
-
-void KeyboardTest::type(QChar letter)
-{
-    const int key = letter.toUpper().unicode();
-    sendKey(m_editor->view(), QEvent::KeyPress, key, Qt::NoModifier, letter);
-    sendKey(m_editor->view(), QEvent::KeyRelease, key, Qt::NoModifier, letter);
-}
-
-TonquillBitmap *KeyboardTest::selectedGlyph()
-{
-    auto *item = m_editor->build<TonquillBitmap>(glyph);
-    item->setSelected(true);
-    return item;
-}
-
-/** A block that a double click has opened. Its rectangle is 241 by 60. */
-TonquillTextBlock *KeyboardTest::editedBlock()
-{
-    auto *item = m_editor->build<TonquillTextBlock>(block);
-    m_editor->pointer.click(item->pos() + QPointF(100, 30));
-    m_editor->pointer.doubleClick(item->pos() + QPointF(100, 30));
-    if (!TonquillTextBlock::isEdited(*item))
-        qFatal("the double click has not opened the block");
-    m_host->messages.clear();
-    return item;
-}
 
 void KeyboardTest::ctrlShowsRestsWhileItIsHeld_data()
 {
@@ -298,171 +200,6 @@ void KeyboardTest::backspaceInABlockDeletesALetter()
     keyClick(Qt::Key_Delete); // the line break behind the cursor
     QCOMPARE(item->toPlainText(), QString("ab"));
     QCOMPARE(items().size(), 1);
-}
-
-void KeyboardTest::copyingTwiceMakesTwoOfEach()
-{
-    selectedGlyph();
-    m_editor->build<TonquillTextBlock>(block)->setSelected(true);
-    keyClick(Qt::Key_C, Qt::ControlModifier);
-    keyClick(Qt::Key_C, Qt::ControlModifier);
-    keyClick(Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(items().size(), 2 + 2 * 2);
-    // Nothing empties the buffer: all four come again.
-    keyClick(Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(items().size(), 2 + 2 * 2 * 2);
-}
-
-void KeyboardTest::pasteStandsBesideTheRecordedPlace_data()
-{
-    QTest::addColumn<QString>("record");
-    QTest::addColumn<QPointF>("expected");
-    QTest::newRow("glyph") << glyph << QPointF(150, 330);
-    QTest::newRow("block") << block << QPointF(110, 430);
-    QTest::newRow("text, twice the way") << "tonquill_text 5 6 70 20 Allegro Arial 12 ff000000 0\n"
-                                         << QPointF(65, 66);
-}
-
-void KeyboardTest::pasteStandsBesideTheRecordedPlace()
-{
-    QFETCH(const QString, record);
-    QFETCH(const QPointF, expected);
-    m_editor->scene().constructItem(record, false, 0);
-    QGraphicsItem *original = ItemProbe::onlyItem(m_editor->scene());
-    original->setSelected(true);
-    keyClick(Qt::Key_C, Qt::ControlModifier);
-    original->setPos(0, 0); // copied is what it was
-    keyClick(Qt::Key_V, Qt::ControlModifier);
-    QList<QGraphicsItem *> all = items();
-    QVERIFY(all.removeOne(original));
-    QCOMPARE(all.size(), 1);
-    QCOMPARE(all.constFirst()->pos(), expected);
-    QCOMPARE(ItemProbe::statusOf(all.constFirst()), 0);
-}
-
-void KeyboardTest::copyAndPasteActOnRelease()
-{
-    selectedGlyph();
-    keyPress(Qt::Key_C, Qt::ControlModifier);
-    m_editor->scene().onPaste();
-    QCOMPARE(items().size(), 1);
-    keyRelease(Qt::Key_C, Qt::ControlModifier);
-    keyPress(Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(items().size(), 1);
-    keyRelease(Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(items().size(), 2);
-}
-
-void KeyboardTest::copyAndPasteWhenCtrlGoesFirst()
-{
-    selectedGlyph();
-    keyPress(Qt::Key_C, Qt::ControlModifier);
-    keyRelease(Qt::Key_C);
-    for (int pasted = 1; pasted <= 3; ++pasted) {
-        keyPress(Qt::Key_V, Qt::ControlModifier);
-        keyRelease(Qt::Key_V);
-        QCOMPARE(items().size(), 1 + pasted);
-    }
-    // Both held at once, each acts for itself, and with Ctrl still held not twice.
-    keyPress(Qt::Key_C, Qt::ControlModifier);
-    keyPress(Qt::Key_V, Qt::ControlModifier);
-    keyRelease(Qt::Key_C, Qt::ControlModifier);
-    keyRelease(Qt::Key_V);
-    QCOMPARE(items().size(), 4 + 2);
-}
-
-void KeyboardTest::letterAloneDoesNotPaste_data()
-{
-    QTest::addColumn<QString>("before");
-    QTest::newRow("nothing") << "";
-    QTest::newRow("a whole paste") << "paste";
-    QTest::newRow("a paste whose release was lost") << "press";
-    QTest::newRow("a paste that lost the keyboard") << "focus";
-}
-
-void KeyboardTest::letterAloneDoesNotPaste()
-{
-    QFETCH(const QString, before);
-    selectedGlyph();
-    keyClick(Qt::Key_C, Qt::ControlModifier);
-    if (!before.isEmpty())
-        keyPress(Qt::Key_V, Qt::ControlModifier);
-    if (before == "paste")
-        keyRelease(Qt::Key_V);
-    const qsizetype count = items().size();
-    if (before == "focus") {
-        QFocusEvent focusOut(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
-        QCoreApplication::sendEvent(&m_editor->scene(), &focusOut);
-    } else {
-        keyPress(Qt::Key_V);
-    }
-    keyRelease(Qt::Key_V);
-    QCOMPARE(items().size(), count);
-}
-
-/** Each repeat with Ctrl pastes; of those without, only the one that Ctrl began. */
-void KeyboardTest::heldPasteEndsWithCtrl()
-{
-    selectedGlyph();
-    keyClick(Qt::Key_C, Qt::ControlModifier);
-    const auto send = [this](QEvent::Type type, Qt::KeyboardModifiers modifiers, bool repeat) {
-        sendKey(m_editor->view(), type, Qt::Key_V, modifiers, {}, repeat);
-    };
-    send(QEvent::KeyPress, Qt::ControlModifier, false);
-    for (int i = 0; i < 2; ++i) {
-        send(QEvent::KeyRelease, Qt::ControlModifier, true);
-        send(QEvent::KeyPress, Qt::ControlModifier, true);
-    }
-    QCOMPARE(items().size(), 1 + 2);
-    for (int i = 0; i < 5; ++i) {
-        send(QEvent::KeyRelease, Qt::NoModifier, true);
-        send(QEvent::KeyPress, Qt::NoModifier, true);
-    }
-    send(QEvent::KeyRelease, Qt::NoModifier, false);
-    QCOMPARE(items().size(), 1 + 3);
-}
-
-void KeyboardTest::copyAndPasteInABlockActOnItsText()
-{
-    selectedGlyph();
-    keyClick(Qt::Key_C, Qt::ControlModifier);
-    m_editor->scene().clearSelection();
-    TonquillTextBlock *item = editedBlock();
-    QTextCursor cursor = item->textCursor();
-    cursor.setPosition(0);
-    cursor.setPosition(3, QTextCursor::KeepAnchor);
-    item->setTextCursor(cursor);
-    keyClick(Qt::Key_C, Qt::ControlModifier);
-    cursor.setPosition(0);
-    item->setTextCursor(cursor);
-    keyClick(Qt::Key_V, Qt::ControlModifier);
-    keyPress(Qt::Key_V, Qt::ControlModifier);
-    keyRelease(Qt::Key_V);
-    QCOMPARE(item->toPlainText().trimmed(), QString("abcabcabc"));
-    QCOMPARE(items().size(), 2);
-    // The block itself was not copied either.
-    m_editor->pointer.click(QPointF(600, 600));
-    keyClick(Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(items().size(), 2 + 1);
-}
-
-void KeyboardTest::copyLeavesOutItemsWithoutARecord()
-{
-    QGraphicsItem *plain = m_editor->scene().addPixmap(QPixmap(3, 3));
-    plain->setFlag(QGraphicsItem::ItemIsSelectable);
-    plain->setSelected(true);
-    QGraphicsItem *object = m_editor->scene().addText("an object without a record");
-    object->setFlag(QGraphicsItem::ItemIsSelectable);
-    object->setSelected(true);
-    keyClick(Qt::Key_C, Qt::ControlModifier);
-    keyClick(Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(items().size(), 2);
-}
-
-void KeyboardTest::pastingNothingDoesNothing()
-{
-    keyClick(Qt::Key_V, Qt::ControlModifier);
-    QVERIFY(items().isEmpty());
 }
 
 void KeyboardTest::spaceWithoutALastItemDoesNothing()

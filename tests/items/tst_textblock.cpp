@@ -1,16 +1,13 @@
 #include "ItemProbe.h"
 #include "ModalAnswer.h"
+#include "PlacedBlock.h"
 #include "ScenePointer.h"
 #include "TestMain.h"
 #include "TonquillMainWin.h"
-#include "TonquillScene.h"
-#include "TonquillTextBlock.h"
 
 #include <QBuffer>
 #include <QGraphicsSceneContextMenuEvent>
-#include <QKeyEvent>
 #include <QPointer>
-#include <QTextCursor>
 #include <QTextDocument>
 
 using namespace ModalAnswer;
@@ -26,18 +23,6 @@ QString placeholder()
 QString asShown(QString text)
 {
     return text.replace("\r\n", "\n");
-}
-
-void sendKey(QGraphicsScene *scene, QEvent::Type type, int key, const QString &text)
-{
-    QKeyEvent event(type, key, Qt::NoModifier, text);
-    QCoreApplication::sendEvent(scene, &event);
-}
-
-void typeKey(QGraphicsScene *scene, int key, const QString &text)
-{
-    sendKey(scene, QEvent::KeyPress, key, text);
-    sendKey(scene, QEvent::KeyRelease, key, text);
 }
 } // namespace
 
@@ -61,20 +46,6 @@ private Q_SLOTS:
     void resizingLetsOthersPaint();
     void blockMayGoWhileItIsResized();
     void keepsItsGrabAfterADragAndOthersTakeIt();
-    void doubleClickEditsUntilFocusIsLost();
-    void leavingDeselectsItsText();
-    void doubleClickPutsTheTextCursor();
-    void doubleClickLeavesAnyPartOfEditing_data();
-    void doubleClickLeavesAnyPartOfEditing();
-    void frameFollowsTyping();
-    void keysAreIgnoredAtRest_data();
-    void keysAreIgnoredAtRest();
-    void keysFitTheBlockWithAnyPartOfEditing_data();
-    void keysFitTheBlockWithAnyPartOfEditing();
-    void pressWhileEditedMovesNothing();
-    void dragWhileEditedSelectsText();
-    void clickIntoSelectedTextDeselects();
-    void newBlockThatIsEditedDoesNotFollow();
     void sizeMenuEntries();
     void sizeMenuSetsThePointSize_data();
     void sizeMenuSetsThePointSize();
@@ -91,32 +62,13 @@ private Q_SLOTS:
     void formattedTextOpensNoFile();
 
 private:
-    TonquillTextBlock *place(const QString &text = QStringLiteral("verse"));
-    void edit(TonquillTextBlock *block);
+    TonquillTextBlock *place(const QString &text = QStringLiteral("verse"))
+    {
+        return placeBlock(*m_window.scene, text);
+    }
 
     TonquillMainWin m_window;
 };
-
-/** A selected block at (100, 200), (0, 0) to (121, 80) in its own coordinates. */
-TonquillTextBlock *TextBlockTest::place(const QString &text)
-{
-    auto *block = new TonquillTextBlock(false, text, QRectF(0, 0, 120, 80));
-    m_window.scene->addNewItem(block);
-    block->setPos(100, 200);
-    block->setSelected(true);
-    return block;
-}
-
-/** Double-clicks the block, on a scene that has the keyboard. */
-void TextBlockTest::edit(TonquillTextBlock *block)
-{
-    QEvent activate(QEvent::WindowActivate);
-    QCoreApplication::sendEvent(m_window.scene, &activate);
-    m_window.scene->setFocus();
-    ScenePointer(*m_window.scene).doubleClick(block->mapToScene(QPointF(30, 10)));
-    QCOMPARE(block->textInteractionFlags(), Qt::TextEditorInteraction);
-    QVERIFY(block->hasFocus());
-}
 
 void TextBlockTest::startsByItsFlag_data()
 {
@@ -286,184 +238,6 @@ void TextBlockTest::keepsItsGrabAfterADragAndOthersTakeIt()
     pointer.drag(QPointF(160, 250), QPointF(150, 240));
     QCOMPARE(m_window.scene->mouseGrabberItem(), first);
     QCOMPARE(first->pos(), QPointF(100, 200));
-}
-
-void TextBlockTest::doubleClickEditsUntilFocusIsLost()
-{
-    TonquillTextBlock *block = place();
-    edit(block);
-    m_window.scene->setFocusItem(nullptr);
-    QCOMPARE(block->textInteractionFlags(), Qt::NoTextInteraction);
-    QCOMPARE(block->itemStatus(), 0);
-}
-
-void TextBlockTest::leavingDeselectsItsText()
-{
-    TonquillTextBlock *block = place();
-    edit(block);
-    QTextCursor all(block->document());
-    all.select(QTextCursor::Document);
-    block->setTextCursor(all);
-    m_window.scene->setFocusItem(nullptr);
-    QVERIFY(!block->textCursor().hasSelection());
-}
-
-/** On the second of two lines; as everywhere, a double click selects the word. */
-void TextBlockTest::doubleClickPutsTheTextCursor()
-{
-    TonquillTextBlock *block = place("one\ntwo");
-    const qreal margin = block->document()->documentMargin();
-    const qreal lineHeight = (block->document()->size().height() - 2 * margin) / 2;
-    ScenePointer(*m_window.scene).doubleClick(QPointF(100 + 10, 200 + margin + 1.5 * lineHeight));
-    QCOMPARE(block->textCursor().selectedText(), QString("two"));
-}
-
-void TextBlockTest::doubleClickLeavesAnyPartOfEditing_data()
-{
-    QTest::addColumn<int>("flags");
-    for (const int flags : {int(Qt::TextSelectableByMouse), int(Qt::TextSelectableByKeyboard),
-                            int(Qt::TextEditable), int(Qt::TextBrowserInteraction)})
-        QTest::addRow("%d", flags) << flags;
-}
-
-void TextBlockTest::doubleClickLeavesAnyPartOfEditing()
-{
-    QFETCH(int, flags);
-    TonquillTextBlock *block = place();
-    block->setTextInteractionFlags(Qt::TextInteractionFlags(flags));
-    ScenePointer(*m_window.scene).pressTwice(QPointF(130, 210));
-    QCOMPARE(int(block->textInteractionFlags()), flags);
-}
-
-void TextBlockTest::frameFollowsTyping()
-{
-    TonquillTextBlock *block = place();
-    edit(block);
-    typeKey(m_window.scene, Qt::Key_End, QString());
-    // From the first key on the block is as large as its text, not as the mouse made it.
-    const QRectF before = block->boundingRect();
-    QVERIFY(before.height() < 80);
-    for (int i = 0; i < 20; ++i)
-        typeKey(m_window.scene, Qt::Key_W, "w");
-    QCOMPARE(block->toPlainText(), "verse" + QString(20, 'w'));
-    const QRectF widened = block->boundingRect();
-    QVERIFY(widened.width() > before.width());
-    QPointF anchor;
-    QCOMPARE(ItemProbe::frameOf(*block)->getAnchor(widened.bottomRight(), anchor), 1);
-    QCOMPARE(anchor, widened.bottomRight());
-
-    typeKey(m_window.scene, Qt::Key_Return, "\r");
-    QVERIFY(block->boundingRect().height() > widened.height());
-}
-
-void TextBlockTest::keysAreIgnoredAtRest_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::newRow("press") << int(QEvent::KeyPress);
-    QTest::newRow("release") << int(QEvent::KeyRelease);
-}
-
-void TextBlockTest::keysAreIgnoredAtRest()
-{
-    QFETCH(int, type);
-    TonquillTextBlock *block = place();
-    QKeyEvent event(static_cast<QEvent::Type>(type), Qt::Key_W, Qt::NoModifier, "w");
-    m_window.scene->sendEvent(block, &event);
-    QVERIFY(!event.isAccepted());
-    QCOMPARE(block->toPlainText(), QString("verse"));
-    QCOMPARE(block->boundingRect(), QRectF(0, 0, 121, 80));
-}
-
-void TextBlockTest::keysFitTheBlockWithAnyPartOfEditing_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("flags");
-    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        for (const int flags : {int(Qt::TextSelectableByMouse), int(Qt::TextSelectableByKeyboard),
-                                int(Qt::TextEditable), int(Qt::TextEditorInteraction)})
-            QTest::addRow("event %d, flags %d", int(type), flags) << int(type) << flags;
-    }
-}
-
-/** Its size is then that of the text, which is as wide as Qt likes it, and so are its anchors. */
-void TextBlockTest::keysFitTheBlockWithAnyPartOfEditing()
-{
-    QFETCH(int, type);
-    QFETCH(int, flags);
-    TonquillTextBlock *block = place();
-    block->setTextInteractionFlags(Qt::TextInteractionFlags(flags));
-    QKeyEvent event(static_cast<QEvent::Type>(type), Qt::Key_Shift, Qt::ShiftModifier);
-    m_window.scene->sendEvent(block, &event);
-    QGraphicsTextItem text("verse");
-    text.setFont(block->font());
-    text.adjustSize();
-    QCOMPARE(block->boundingRect(), text.boundingRect());
-    QPointF anchor;
-    QCOMPARE(ItemProbe::frameOf(*block)->getAnchor(text.boundingRect().bottomRight(), anchor), 1);
-    QCOMPARE(anchor, text.boundingRect().bottomRight());
-}
-
-void TextBlockTest::pressWhileEditedMovesNothing()
-{
-    TonquillTextBlock *block = place();
-    edit(block);
-    block->setTextCursor(QTextCursor(block->document()));
-    ScenePointer pointer(*m_window.scene);
-    pointer.press(QPointF(130, 210));
-    QCOMPARE(block->itemStatus(), 0);
-    pointer.moveTo(QPointF(170, 230));
-    QCOMPARE(block->itemStatus(), 0);
-    pointer.moveTo(QPointF(500, 600));
-    QCOMPARE(block->itemStatus(), 0);
-    pointer.release(QPointF(500, 600));
-    QCOMPARE(block->pos(), QPointF(100, 200));
-    QCOMPARE(block->boundingRect(), QRectF(0, 0, 121, 80));
-    QCOMPARE(block->itemStatus(), 0);
-    QCOMPARE(block->textInteractionFlags(), Qt::TextEditorInteraction);
-}
-
-/** Left of the text to right of it, all inside the block. */
-void TextBlockTest::dragWhileEditedSelectsText()
-{
-    TonquillTextBlock *block = place();
-    edit(block);
-    block->setTextCursor(QTextCursor(block->document())); // nothing is selected by the double click
-    ScenePointer(*m_window.scene).drag(QPointF(104.2, 210), QPointF(200, 210));
-    QCOMPARE(block->textCursor().selectedText(), QString("verse"));
-    QCOMPARE(block->pos(), QPointF(100, 200));
-}
-
-/** It might have begun a drag of the text, so it is the release that deselects. */
-void TextBlockTest::clickIntoSelectedTextDeselects()
-{
-    TonquillTextBlock *block = place("verse");
-    edit(block);
-    QTextCursor all(block->document());
-    all.select(QTextCursor::Document);
-    block->setTextCursor(all);
-    ScenePointer pointer(*m_window.scene);
-    pointer.press(QPointF(110, 210));
-    QCOMPARE(block->textCursor().selectedText(), QString("verse"));
-    pointer.release(QPointF(110, 210));
-    QCOMPARE(block->textCursor().selectedText(), QString());
-}
-
-/** A new block that a double click opens stays where it is, and the release places it. */
-void TextBlockTest::newBlockThatIsEditedDoesNotFollow()
-{
-    auto *block = new TonquillTextBlock(true, "verse", QRectF(0, 0, 120, 80));
-    m_window.scene->addNewItem(block);
-    ScenePointer pointer(*m_window.scene);
-    pointer.moveTo(QPointF(100, 200));
-    pointer.pressTwice(QPointF(130, 210));
-    QCOMPARE(block->textInteractionFlags(), Qt::TextEditorInteraction);
-    for (const QPointF point : {QPointF(150, 220), QPointF(500, 600)}) {
-        pointer.moveTo(point);
-        QCOMPARE(block->pos(), QPointF(100, 200));
-        QCOMPARE(block->itemStatus(), 1);
-    }
-    pointer.release(QPointF(150, 220));
-    QCOMPARE(block->itemStatus(), 0);
 }
 
 void TextBlockTest::sizeMenuEntries()

@@ -70,7 +70,7 @@ MUTATIONS = [
         "document/TonquillSceneKeyboard.cpp",
         "constexpr int pasteOffset = 30;",
         "constexpr int pasteOffset = 20;",
-        "tst_keyboard",
+        "tst_clipboardkeys",
     ),
     Mutation(
         "the up and down keys are swapped",
@@ -294,7 +294,7 @@ MUTATIONS = [
         "items/TonquillTextBlock.cpp",
         "    else if (ItemModel::onlyLeftButtonHeld(*event))\n        startDrag(*event);",
         "    if (ItemModel::onlyLeftButtonHeld(*event))\n        startDrag(*event);",
-        "tst_textblock",
+        "tst_textblockediting",
     ),
     Mutation(
         "the last item of a document is not the one that Space repeats",
