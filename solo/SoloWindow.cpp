@@ -1,6 +1,7 @@
 #include "SoloWindow.h"
 
 #include "MenuBar.h"
+#include "OpenBox.h"
 #include "PlainMessageBox.h"
 
 #include <QAction>
@@ -108,9 +109,7 @@ void SoloWindow::redo()
 /** The box that the editor shows when a host says so. */
 void SoloWindow::sayNothingLeft(const QString &title, const QString &text)
 {
-    auto *box = new QMessageBox(QMessageBox::Warning, title, text, QMessageBox::Ok, &m_window);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+    openBox(m_window, QMessageBox::Warning, title, text);
 }
 
 void SoloWindow::refreshTitle()

@@ -2,11 +2,10 @@
 
 #include "HostMessages.h"
 #include "Logging.h"
+#include "OpenBox.h"
 #include "SocketPeer.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
-
-#include <QMessageBox>
 
 #include <utility>
 
@@ -145,19 +144,13 @@ void HostLink::showWindow()
     m_window.activateWindow();
 }
 
-/**
- * The box does not run a loop of its own: the socket must be heard while it is open. Told the same
- * again while it is, the user has not to close it twice.
- */
+/** Told the same again while the box is open, the user has not to close it twice. */
 void HostLink::showBox(const QString &title, const QString &text)
 {
     const auto *open = m_window.findChild<QMessageBox *>(title, Qt::FindDirectChildrenOnly);
     if (open && open->isVisible())
         return;
-    auto *box = new QMessageBox(QMessageBox::Warning, title, text, QMessageBox::Ok, &m_window);
-    box->setObjectName(title);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+    openBox(m_window, QMessageBox::Warning, title, text)->setObjectName(title);
 }
 
 void HostLink::receiveDocument(const QString &payload)

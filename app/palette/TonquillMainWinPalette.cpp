@@ -1,12 +1,12 @@
 #include "InsertCommands.h"
 #include "Logging.h"
+#include "OpenBox.h"
 #include "PaletteBuilder.h"
 #include "SymbolTable.h"
 #include "TonquillMainWin.h"
 #include "ui_TonquillMainWin.h"
 
 #include <QAction>
-#include <QMessageBox>
 
 void TonquillMainWin::constructBitmapSymbols()
 {
@@ -45,13 +45,8 @@ void TonquillMainWin::onQuickTextAction(bool on)
 {
     quickText = on;
     qCDebug(lcTonquill) << "onQuickTextAction " << (on ? "true" : "false");
-    // Not with exec(): the editor keeps listening to its host while the box is open.
-    auto *box = new QMessageBox(QMessageBox::Information, QStringLiteral("Quick Text"),
-                                on ? QStringLiteral("Quick text is on")
-                                   : QStringLiteral("Quick text is off"),
-                                QMessageBox::Ok, this);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+    openBox(*this, QMessageBox::Information, QStringLiteral("Quick Text"),
+            on ? QStringLiteral("Quick text is on") : QStringLiteral("Quick text is off"));
 }
 
 void TonquillMainWin::OnToolBar1ButtonSheetMusic()

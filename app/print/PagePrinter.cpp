@@ -1,5 +1,6 @@
 #include "PagePrinter.h"
 
+#include "OpenBox.h"
 #include "PageRange.h"
 #include "PrintProgress.h"
 #include "PrinterPaper.h"
@@ -9,7 +10,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QPageSetupDialog>
 #include <QPaintEngine>
 #include <QPainter>
@@ -177,11 +177,8 @@ QRectF PagePrinter::targetOn(const QPrinter &printer) const
                  : QRectF();
 }
 
-/** The box does not run a loop of its own: whoever prints can go on. */
 void PagePrinter::reportFailure() const
 {
-    auto *box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Tonquill"),
-                                tr("The pages could not be printed."), QMessageBox::Ok, &m_window);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+    openBox(m_window, QMessageBox::Warning, QStringLiteral("Tonquill"),
+            tr("The pages could not be printed."));
 }
