@@ -53,11 +53,6 @@ void FileCommands::remember(const QString &path)
     QSettings().setValue(recentKey(), files.first(qMin(files.size(), mostRecentFiles)));
 }
 
-void FileCommands::showError(const QString &text, const QString &details)
-{
-    PlainMessageBox(QMessageBox::Warning, text, details, QMessageBox::Ok, &m_window).exec();
-}
-
 bool FileCommands::mayLeave()
 {
     m_session.edits().check();
@@ -122,8 +117,9 @@ void FileCommands::openCopy(const QString &path)
 bool FileCommands::isDocument(const QString &path, const DocumentFile::Reading &reading)
 {
     if (!reading.isDocument)
-        showError(tr("“%1” cannot be opened.").arg(QDir::toNativeSeparators(path)),
-                  reading.problemText());
+        PlainMessageBox::warn(&m_window,
+                              tr("“%1” cannot be opened.").arg(QDir::toNativeSeparators(path)),
+                              reading.problemText());
     return reading.isDocument;
 }
 
@@ -184,8 +180,9 @@ bool FileCommands::saveTo(const QString &path)
 {
     const QString error = m_session.saveAs(path);
     if (!error.isEmpty()) {
-        showError(tr("“%1” could not be saved.").arg(QDir::toNativeSeparators(path)),
-                  tr("%1\nThe file is as it was before.").arg(error));
+        PlainMessageBox::warn(&m_window,
+                              tr("“%1” could not be saved.").arg(QDir::toNativeSeparators(path)),
+                              tr("%1\nThe file is as it was before.").arg(error));
         return false;
     }
     remember(path);
@@ -214,7 +211,7 @@ void FileCommands::exportPdf()
     options.document = m_session.source();
     const QString error = Exporter(m_window).write(path, options);
     if (!error.isEmpty())
-        showError(tr("The PDF could not be written."), error);
+        PlainMessageBox::warn(&m_window, tr("The PDF could not be written."), error);
 }
 
 bool FileCommands::offerRecovery()

@@ -47,7 +47,6 @@ private:
     bool isDocument(const QString &path, const DocumentFile::Reading &reading);
     bool mayShow(const QString &path, const DocumentFile::Reading &reading);
     QString suggestedPath(const QString &suffix) const;
-    void showError(const QString &text, const QString &details);
     void remember(const QString &path);
 
     TonquillMainWin &m_window;

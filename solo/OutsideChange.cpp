@@ -42,10 +42,8 @@ OutsideChange::Answer OutsideChange::askBeforeSaving() const
 bool OutsideChange::tellAndOfferReload() const
 {
     if (m_change == FileStamp::Change::Removed) {
-        PlainMessageBox(QMessageBox::Warning, whatHappened(),
-                        tr("What the window shows is no longer saved anywhere."), QMessageBox::Ok,
-                        &m_window)
-            .exec();
+        PlainMessageBox::warn(&m_window, whatHappened(),
+                              tr("What the window shows is no longer saved anywhere."));
         return false;
     }
     PlainMessageBox box(QMessageBox::Warning, whatHappened(),

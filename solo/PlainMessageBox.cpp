@@ -13,3 +13,8 @@ PlainMessageBox::PlainMessageBox(Icon icon, const QString &text, const QString &
     if (auto *label = findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel")))
         label->setTextFormat(Qt::PlainText);
 }
+
+void PlainMessageBox::warn(QWidget *parent, const QString &text, const QString &details)
+{
+    PlainMessageBox(Warning, text, details, Ok, parent).exec();
+}

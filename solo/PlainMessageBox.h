@@ -12,4 +12,7 @@ public:
     /** `details` stand below `text`, in smaller print; they may be empty. */
     PlainMessageBox(Icon icon, const QString &text, const QString &details, StandardButtons buttons,
                     QWidget *parent = nullptr);
+
+    /** Shows a warning until it is closed; `parent` may be null. */
+    static void warn(QWidget *parent, const QString &text, const QString &details);
 };

@@ -36,10 +36,9 @@ void RecoveryOffer::tellUnreadable()
             ? tr("Until this file is moved away, no other changes are kept for recovery:")
             : tr("It is kept in this file:");
     const QString file = copy.isEmpty() ? m_session.journal().file() : copy;
-    PlainMessageBox(QMessageBox::Warning,
-                    tr("Tonquill ended unexpectedly, and what was not saved cannot be read."),
-                    details + u'\n' + QDir::toNativeSeparators(file), QMessageBox::Ok, &m_window)
-        .exec();
+    PlainMessageBox::warn(&m_window,
+                          tr("Tonquill ended unexpectedly, and what was not saved cannot be read."),
+                          details + u'\n' + QDir::toNativeSeparators(file));
     if (!copy.isEmpty())
         m_session.journal().takeOver();
 }

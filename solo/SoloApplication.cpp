@@ -183,7 +183,7 @@ int SoloApplication::handOver(const SingleInstance &instance, const QString &pat
                                 ? QString()
                                 : tr("It may open “%1” later.").arg(QDir::toNativeSeparators(path));
     const int status = fail(text);
-    PlainMessageBox(QMessageBox::Warning, text, details, QMessageBox::Ok).exec();
+    PlainMessageBox::warn(nullptr, text, details);
     return status;
 }
 

@@ -72,7 +72,7 @@ void SoloWindow::openLater(const QString &path)
 void SoloWindow::begin(const Beginning &wanted)
 {
     for (const auto &[text, details] : wanted.problems)
-        warn(text, details);
+        PlainMessageBox::warn(&m_window, text, details);
     m_session.tryJournal();
     const bool isRecovered = m_files.offerRecovery();
     // What was just recovered is newer than its file, which is not opened over it.
@@ -82,15 +82,11 @@ void SoloWindow::begin(const Beginning &wanted)
         m_files.openCopy(wanted.example);
 }
 
-void SoloWindow::warn(const QString &text, const QString &details)
-{
-    PlainMessageBox(QMessageBox::Warning, text, details, QMessageBox::Ok, &m_window).exec();
-}
-
 void SoloWindow::onJournalFailed(const QString &reason)
 {
     m_errands.add([this, reason] {
-        warn(tr("Unsaved changes cannot be kept for recovery after a crash."), reason);
+        PlainMessageBox::warn(
+            &m_window, tr("Unsaved changes cannot be kept for recovery after a crash."), reason);
     });
 }
 

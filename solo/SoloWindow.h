@@ -72,7 +72,6 @@ protected:
 private:
     void sayNothingLeft(const QString &title, const QString &text);
     void refreshTitle();
-    void warn(const QString &text, const QString &details);
     void onJournalFailed(const QString &reason);
 
     ErrandQueue m_errands;
