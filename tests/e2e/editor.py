@@ -1,12 +1,15 @@
 """The programs in their windows on a desktop, and the documents that they tell of."""
 
 import json
+import math
 import pathlib
+import time
 
 from host import TO_HOST, Host
 from workbench import wait_until
 
 ONE_PAGE = "tonquill_pagecount 1\n"
+SECONDS_BETWEEN_TELLING = 2.0
 
 
 class Program:
@@ -185,10 +188,21 @@ PROGRAM_KINDS = {"tonquill": EditorWithDocument, "tonquill-solo": SoloWithDocume
 
 
 def wait_for_document(program, matches, what):
-    """Waits until the program's document, once told, is one for which matches() is true."""
-    program.tell()
+    """Waits until the program's document, once told, is one for which matches() is true.
+
+    It is told anew until then: the first time may have come before the last click was dealt with.
+    """
+    last_told = -math.inf
+
+    def told():
+        nonlocal last_told
+        if time.monotonic() - last_told > SECONDS_BETWEEN_TELLING:
+            program.tell()
+            last_told = time.monotonic()
+        return matches()
+
     try:
-        wait_until(matches, what)
+        wait_until(told, what)
     except TimeoutError:
         raise AssertionError(f"{what}; told was:\n{program.document()}") from None
 
