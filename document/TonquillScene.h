@@ -54,8 +54,13 @@ public:
     void addPageAfterCurPage(int cur);
     void addPageAtBegining();
     void addPageAtEnd();
-    /** Deletes the page with its items; the last page is only emptied. */
+    /**
+     * Deletes the page with its items; the last page is only emptied. What is below comes up by two
+     * gaps less than a page's pitch.
+     */
     void deletePage(int page);
+    /** The same, but what is below comes up by this many scene units. */
+    void deletePage(int page, double way);
     /** Deletes every item and all pages but one. */
     void clearScene();
     /** Outlines page `index`, counted from 0, and its printable area. */

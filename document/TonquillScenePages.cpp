@@ -81,6 +81,12 @@ void TonquillScene::moveDown(const QList<QGraphicsItem *> &items, double way)
 
 void TonquillScene::deletePage(int page)
 {
+    // Intentional: items land two gaps lower on their new page than they stood before.
+    deletePage(page, paperRect.height() - pageSpacing);
+}
+
+void TonquillScene::deletePage(int page, double way)
+{
     const QRectF area(0, truncatedToInt((page - 1) * pagePitch()), paperRect.width(),
                       paperRect.height());
     QList<QGraphicsItem *> deleted = topLevelItemsIn(area);
@@ -91,12 +97,10 @@ void TonquillScene::deletePage(int page)
         return;
     --g_pMainWin->pageCount;
     const QRectF old = sceneRect();
-    // The shift is meant: items land two gaps lower on their new page than they stood before.
-    const double shift = pageSpacing - paperRect.height();
     const QList<QGraphicsItem *> moving = topLevelItemsIn(
         QRectF(0, truncatedToInt(page * pagePitch()), paperRect.width(), old.height()));
     setSceneRect(0, 0, old.width(), old.height() - pagePitch());
-    moveDown(moving, shift);
+    moveDown(moving, -way);
 }
 
 void TonquillScene::clearScene()

@@ -93,7 +93,8 @@ void PageControls::showInsertMenu()
 
 void PageControls::deletePage()
 {
-    m_window.scene->deletePage(currentPage());
+    // The whole pitch: two gaps lower, the last lines of a page would fall out of its frame.
+    m_window.scene->deletePage(currentPage(), m_window.scene->pagePitch());
     refresh();
 }
 

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void aPageComesToTheTop_data();
     void aPageComesToTheTop();
     void theButtonDeletesThePageThatItNames();
+    void whatFollowsADeletedPageKeepsItsPlaceOnItsPage();
     void theButtonNamesThePageAfterEveryChange();
     void theEndOfTheLastPageIsNoFurtherPage();
     void theInsertMenuMeansTheSamePage_data();
@@ -156,6 +157,23 @@ void SoloPageControlsTest::theButtonDeletesThePageThatItNames()
     QCOMPARE(m_solo->window().pageCount, 2);
     QCOMPARE(label(), QString("2/2"));
     QCOMPARE(button(), QString("Delete Page 2"));
+}
+
+void SoloPageControlsTest::whatFollowsADeletedPageKeepsItsPlaceOnItsPage()
+{
+    show(4, QSize(900, 2200), 1);
+    // The last line of a page, which is in the frame as long as it does not come to lie lower.
+    constexpr double last = 1000;
+    const TonquillBitmap *first = addGlyph(last);
+    const TonquillBitmap *third = addGlyph(2 * pitch + last);
+    const TonquillBitmap *fourth = addGlyph(3 * pitch + 20);
+    child<QSpinBox>("sb_page")->setValue(2);
+    QTest::mouseClick(child<QPushButton>("pb_deletePAge"), Qt::LeftButton);
+    QCOMPARE(first->y(), last);
+    QCOMPARE(third->y(), pitch + last);
+    QCOMPARE(fourth->y(), 2 * pitch + 20);
+    QTest::mouseClick(child<QPushButton>("pb_deletePAge"), Qt::LeftButton);
+    QCOMPARE(fourth->y(), pitch + 20);
 }
 
 void SoloPageControlsTest::theButtonNamesThePageAfterEveryChange()
