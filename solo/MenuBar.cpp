@@ -8,6 +8,7 @@
 #include "TonquillTextBlock.h"
 #include "ZoomControl.h"
 
+#include <QApplication>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMenu>
@@ -25,6 +26,27 @@ MenuBar::MenuBar(TonquillMainWin &window, FileCommands &files, ZoomControl &zoom
     buildInsertMenu();
     buildHelpMenu();
     connect(window.scene, &QGraphicsScene::focusItemChanged, this, &MenuBar::onFocusItemChanged);
+    for (const QAction *title : actions())
+        title->menu()->installEventFilter(this);
+}
+
+/** Escape closes a menu and leaves the bar, where Qt would keep the keyboard without showing it. */
+bool MenuBar::eventFilter(QObject *, QEvent *event)
+{
+    // Once the menu has handled the key.
+    if (event->type() == QEvent::KeyPress &&
+        static_cast<const QKeyEvent *>(event)->key() == Qt::Key_Escape)
+        QMetaObject::invokeMethod(this, &MenuBar::leave, Qt::QueuedConnection);
+    return false;
+}
+
+/** Gives the keyboard back to whatever had it before the bar, unless only a submenu was closed. */
+void MenuBar::leave()
+{
+    if (!hasFocus() || QApplication::activePopupWidget())
+        return;
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QCoreApplication::sendEvent(this, &escape);
 }
 
 void MenuBar::buildFileMenu()

@@ -24,6 +24,9 @@ Q_SIGNALS:
     void redoRequested();
     void quitRequested();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void buildFileMenu();
     void buildEditMenu();
@@ -35,6 +38,7 @@ private:
     QAction *addKeyEntry(QMenu *menu, const QString &text, Qt::Key key,
                          Qt::KeyboardModifiers modifiers);
     void typeKey(Qt::Key key, Qt::KeyboardModifiers modifiers);
+    void leave();
     void selectAll();
     void onFocusItemChanged(QGraphicsItem *now, QGraphicsItem *before, Qt::FocusReason reason);
 

@@ -12,6 +12,7 @@ PROGRAMS, PICTURES = map(pathlib.Path, (sys.argv.pop(1), sys.argv.pop(1)))
 KIND = sys.argv.pop(1)
 
 TABLATURE_TOOLS, TEXT, CLEFS = 2, 0x100, 0x102
+FILE_MENU = (20, 10)
 SHARP, EIGHTH = 4, 22
 ROW, COPIES, FREE, EMPTY = 100, 130, 250, (640, 450)
 BLOCK = (80, 350)
@@ -97,6 +98,26 @@ class KeysTest(unittest.TestCase):
         # The moved one and the new one are selected.
         self.desktop.key("Delete")
         self.is_told(self.items)
+
+    @unittest.skipUnless(KIND == "tonquill-solo", "it has a menu bar")
+    def test_keys_act_after_a_menu_of_the_bar(self):
+        self.starts_with_glyphs(2)
+        self.acts_after(self.opens_a_menu_of_the_bar_by(self.clicking_it))
+        self.acts_after(self.opens_a_menu_of_the_bar_by(self.its_key))
+
+    def opens_a_menu_of_the_bar_by(self, means):
+        def opens_it():
+            before = self.program.window.picture_at_rest()
+            means()
+            self.closes_the_menu(before)
+
+        return opens_it
+
+    def clicking_it(self):
+        self.program.window.click(FILE_MENU)
+
+    def its_key(self):
+        self.desktop.key("alt+f")
 
     def test_typing_a_page_stays_typing(self):
         self.starts_with_glyphs(2)
