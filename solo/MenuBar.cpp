@@ -26,8 +26,12 @@ MenuBar::MenuBar(TonquillMainWin &window, FileCommands &files, ZoomControl &zoom
     buildInsertMenu();
     buildHelpMenu();
     connect(window.scene, &QGraphicsScene::focusItemChanged, this, &MenuBar::onFocusItemChanged);
-    for (const QAction *title : actions())
+    for (const QAction *title : actions()) {
         title->menu()->installEventFilter(this);
+        // Not before it is known whether the bar's next menu opens instead.
+        connect(title->menu(), &QMenu::aboutToHide, this, &MenuBar::forgetText,
+                Qt::QueuedConnection);
+    }
 }
 
 /** Escape closes a menu and leaves the bar, where Qt would keep the keyboard without showing it. */
@@ -98,10 +102,13 @@ void MenuBar::buildEditMenu()
     };
     menu->addSeparator();
     menu->addAction(tr("Select &All"), QKeySequence::SelectAll, this, &MenuBar::selectAll);
-    // Meant for a part of a text, they would now act on whole items.
+    // Meant for a part of a text, they would act on whole items. A press on the bar has ended the
+    // editing by now, and so has another menu; the key of this menu only does so after this.
     connect(menu, &QMenu::aboutToShow, this, [this, keys] {
+        const auto *text = qgraphicsitem_cast<TonquillTextBlock *>(m_window.scene->focusItem());
+        const bool isTextMeant = m_textWasLeft || (text && TonquillTextBlock::isEdited(*text));
         for (QAction *entry : keys)
-            entry->setDisabled(m_textWasLeft);
+            entry->setDisabled(isTextMeant);
     });
 }
 
@@ -133,8 +140,15 @@ void MenuBar::selectAll()
 
 void MenuBar::onFocusItemChanged(QGraphicsItem *, QGraphicsItem *before, Qt::FocusReason reason)
 {
-    const bool byMenu = reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
+    const bool byMenu = reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason ||
+                        (reason == Qt::MouseFocusReason && underMouse());
     m_textWasLeft = byMenu && qgraphicsitem_cast<TonquillTextBlock *>(before) != nullptr;
+}
+
+void MenuBar::forgetText()
+{
+    if (!QApplication::activePopupWidget())
+        m_textWasLeft = false;
 }
 
 void MenuBar::buildViewMenu()

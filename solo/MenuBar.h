@@ -40,6 +40,7 @@ private:
     void typeKey(Qt::Key key, Qt::KeyboardModifiers modifiers);
     void leave();
     void selectAll();
+    void forgetText();
     void onFocusItemChanged(QGraphicsItem *now, QGraphicsItem *before, Qt::FocusReason reason);
 
     TonquillMainWin &m_window;

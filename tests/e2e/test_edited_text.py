@@ -18,6 +18,7 @@ GAP = " " * 20
 TEXT = f"ab{GAP}cd"
 IN_THE_GAP, AT_THE_END, BEYOND_THE_BLOCK = 50, 200, 300
 EMPTY = (640, 450)
+FILE_MENU, EDIT_MENU = (20, 10), (58, 10)
 
 
 class EditedTextTest(unittest.TestCase):
@@ -70,6 +71,31 @@ class EditedTextTest(unittest.TestCase):
         self.desktop.key("c", "v", "v")
         self.ctrl_with("v", first_up="ctrl")
         self.has_notes(3)
+
+    @unittest.skipUnless(KIND == "tonquill-solo", "it has a menu bar")
+    def test_delete_in_the_menu_spares_the_block_of_an_edited_text(self):
+        for opens_the_menu in (
+            lambda: self.program.window.click(EDIT_MENU),
+            lambda: self.desktop.key("alt+e"),
+        ):
+            self.edits()
+            self.changes(opens_the_menu)
+            # The letter of "Delete", which is grey; Escape closes the menu then.
+            self.desktop.key("d", "Escape")
+            self.program.window.picture_at_rest()
+            self.has_block(r"ab +cd\b", "the block is there")
+
+    @unittest.skipUnless(KIND == "tonquill-solo", "it has a menu bar")
+    def test_delete_in_the_menu_deletes_again_after_the_edited_text(self):
+        self.edits()
+        self.changes(lambda: self.program.window.click(FILE_MENU))
+        self.changes(lambda: self.desktop.key("Escape"))
+        self.program.click(EMPTY)
+        self.changes(lambda: self.program.click(NOTE))
+        self.changes(lambda: self.program.window.click(EDIT_MENU))
+        self.changes(lambda: self.desktop.key("d"))
+        wait_for_document(self.program, lambda: not self.program.glyphs(), "the note is gone")
+        self.assertIn("cd", self.told())
 
     def ctrl_with(self, letter, first_up):
         self.desktop.key_down("ctrl", letter)
