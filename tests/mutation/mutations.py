@@ -194,8 +194,8 @@ MUTATIONS = [
     Mutation(
         "a blank page is printed behind the last one",
         "app/print/PagePrinter.cpp",
-        "i < m_window.pageCount - 1",
-        "i < m_window.pageCount",
+        "i < pages.size() - 1",
+        "i < pages.size()",
         "tst_printedpages",
     ),
     Mutation(
