@@ -75,22 +75,26 @@ struct Outcome
 {
     int error = 0;               ///< the system's, 0 if the file is written
     bool isOtherWayOpen = false; ///< the file itself may still be written
+    AtomicFile::Left left = AtomicFile::Left::AsBefore;
 };
 
 /** Puts a new file in the place of `target`. */
-Outcome replace(const QByteArray &target, bool exists, const QByteArray &bytes)
+Outcome replace(const QByteArray &target, bool exists, const QByteArray &bytes,
+                AtomicFile::Readers readers)
 {
     constexpr int ownersOnly = 0600;
     constexpr int forEverybody = 0666; // without what the umask forbids
     if (exists && FileOwnership::hasOtherNames(target))
         return {EMLINK, true};
+    const bool isLikeOld = exists && readers == AtomicFile::Readers::AsUsual;
+    const bool isForAll = !exists && readers == AtomicFile::Readers::AsUsual;
     QByteArray newPath;
     const FileDescriptor made =
-        FileDescriptor::createBeside(target, exists ? ownersOnly : forEverybody, newPath);
+        FileDescriptor::createBeside(target, isForAll ? forEverybody : ownersOnly, newPath);
     if (!made.isOpen())
         return {errno, exists && !isFullDisk(errno)};
     Outcome outcome;
-    if (exists && !FileOwnership::copy(target, made))
+    if (isLikeOld && !FileOwnership::copy(target, made))
         outcome = {EPERM, true};
     if (outcome.error == 0)
         outcome.error = made.write(bytes.constData(), bytes.size());
@@ -99,7 +103,7 @@ Outcome replace(const QByteArray &target, bool exists, const QByteArray &bytes)
     if (outcome.error == 0 && std::rename(newPath.constData(), target.constData()) != 0)
         outcome = {errno, exists};
     if (outcome.error == 0)
-        return {made.syncFolderOf(target), false};
+        return {made.syncFolderOf(target), false, AtomicFile::Left::New};
     ::unlink(newPath.constData());
     return outcome;
 }
@@ -117,6 +121,9 @@ public:
     /** The answer is empty, or says what went wrong. */
     QString write(const QByteArray &bytes);
 
+    /** What is in its place if that failed. */
+    AtomicFile::Left left() const { return m_left; }
+
 private:
     FileDescriptor makeCopy();
     int putIntoFile(const QByteArray &bytes) const;
@@ -127,6 +134,7 @@ private:
     QByteArray m_copyPath;
     int m_copyError = 0;
     FileDescriptor m_copy;
+    AtomicFile::Left m_left = AtomicFile::Left::AsBefore;
 };
 
 /** Beside the file or, where nothing can be made there, in the folder for temporary files. */
@@ -190,6 +198,7 @@ QString WriteThrough::write(const QByteArray &bytes)
     }
     const int error = putIntoFile(bytes);
     if (error != 0 && putBack() != 0) {
+        m_left = AtomicFile::Left::Damaged;
         return QCoreApplication::translate(
                    "AtomicFile", "%1\nThe file is damaged now. What it held before is in “%2”.")
             .arg(reason(error), QDir::toNativeSeparators(QFile::decodeName(m_copyPath)));
@@ -199,7 +208,7 @@ QString WriteThrough::write(const QByteArray &bytes)
 }
 } // namespace
 
-QString AtomicFile::write(const QString &path, const QByteArray &bytes)
+QString AtomicFile::write(const QString &path, const QByteArray &bytes, Readers readers, Left *left)
 {
     const QString followedPath = followed(path);
     if (!isRepresentable(path) || !isRepresentable(followedPath)) {
@@ -216,15 +225,22 @@ QString AtomicFile::write(const QString &path, const QByteArray &bytes)
     const QByteArray target = QFile::encodeName(followedPath);
     if (info.exists() && !FileOwnership::mayWrite(target))
         return QCoreApplication::translate("AtomicFile", "The file is write-protected.");
-    const Outcome outcome = replace(target, info.exists(), bytes);
-    if (outcome.error != 0 && outcome.isOtherWayOpen)
-        return WriteThrough(target).write(bytes);
-    return outcome.error == 0 ? QString() : reason(outcome.error);
+    const Outcome outcome = replace(target, info.exists(), bytes, readers);
+    Left leftThere = outcome.left;
+    QString error = outcome.error == 0 ? QString() : reason(outcome.error);
+    if (outcome.error != 0 && outcome.isOtherWayOpen) {
+        WriteThrough through(target);
+        error = through.write(bytes);
+        leftThere = through.left();
+    }
+    if (left && !error.isEmpty())
+        *left = leftThere;
+    return error;
 }
 
 #else
 
-QString AtomicFile::write(const QString &path, const QByteArray &bytes)
+QString AtomicFile::write(const QString &path, const QByteArray &bytes, Readers readers, Left *)
 {
     const QFileInfo info(path);
     if (info.exists() && !info.isFile())
@@ -232,6 +248,8 @@ QString AtomicFile::write(const QString &path, const QByteArray &bytes)
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return file.errorString();
+    if (readers == Readers::OwnerOnly)
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     // On a full disk a part is written, which Qt takes for success.
     if (file.write(bytes) != bytes.size() || !file.flush()) {
         const QString error =

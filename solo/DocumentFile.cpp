@@ -21,6 +21,22 @@ QByteArray paperLine(const Paper &paper)
     return line;
 }
 
+/** A line behind the reason why a document was not saved. */
+QString whatIsLeft(AtomicFile::Left left)
+{
+    switch (left) {
+    case AtomicFile::Left::AsBefore:
+        return u'\n' + QCoreApplication::translate("DocumentFile", "The file is as it was before.");
+    case AtomicFile::Left::New:
+        return u'\n' + QCoreApplication::translate("DocumentFile",
+                                                   "The file is written, but a power cut may take "
+                                                   "it back until it is saved again.");
+    case AtomicFile::Left::Damaged:
+        break; // which the reason itself tells
+    }
+    return QString();
+}
+
 QString noMemory()
 {
     return QCoreApplication::translate("DocumentFile",
@@ -83,10 +99,11 @@ DocumentFile::Reading DocumentFile::load(const QString &path, const Paper &defau
 QString DocumentFile::save(const QString &path, const DocumentSnapshot &document, FileStamp *stamp)
 {
     const QByteArray bytes = format(document);
+    AtomicFile::Left left = AtomicFile::Left::AsBefore;
     QString error = OrdinaryFile::problemOfSize(bytes.size());
     if (error.isEmpty())
-        error = AtomicFile::write(path, bytes);
-    if (error.isEmpty() && stamp)
+        error = AtomicFile::write(path, bytes, AtomicFile::Readers::AsUsual, &left);
+    if (stamp && (error.isEmpty() || left == AtomicFile::Left::New))
         *stamp = FileStamp::of(path, bytes);
-    return error;
+    return error.isEmpty() ? QString() : error + whatIsLeft(left);
 }

@@ -180,9 +180,8 @@ bool FileCommands::saveTo(const QString &path)
 {
     const QString error = m_session.saveAs(path);
     if (!error.isEmpty()) {
-        PlainMessageBox::warn(&m_window,
-                              tr("“%1” could not be saved.").arg(QDir::toNativeSeparators(path)),
-                              tr("%1\nThe file is as it was before.").arg(error));
+        PlainMessageBox::warn(
+            &m_window, tr("“%1” could not be saved.").arg(QDir::toNativeSeparators(path)), error);
         return false;
     }
     remember(path);

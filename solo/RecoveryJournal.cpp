@@ -16,8 +16,7 @@ const QByteArray header = QByteArrayLiteral("tonquill-recovery ");
 /** A document as large as any, and the journal's first line. */
 constexpr qint64 largestJournal = DocumentBounds::largestFile + 64 * 1024;
 
-constexpr QFile::Permissions ownersOnly = QFile::ReadOwner | QFile::WriteOwner;
-constexpr QFile::Permissions ownersFolder = ownersOnly | QFile::ExeOwner;
+constexpr QFile::Permissions ownersFolder = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
 } // namespace
 
 RecoveryJournal::RecoveryJournal(const QString &folder)
@@ -45,9 +44,10 @@ bool RecoveryJournal::write(const DocumentSnapshot &document, const QString &pat
     m_error = prepare();
     if (!m_error.isEmpty())
         return false;
-    m_error = AtomicFile::write(m_file, header + QUrl::toPercentEncoding(path) + ' ' + contents +
-                                            '\n' + DocumentFile::format(document));
-    QFile::setPermissions(m_file, ownersOnly);
+    m_error = AtomicFile::write(m_file,
+                                header + QUrl::toPercentEncoding(path) + ' ' + contents + '\n' +
+                                    DocumentFile::format(document),
+                                AtomicFile::Readers::OwnerOnly);
     return m_error.isEmpty();
 }
 
@@ -78,10 +78,8 @@ QString RecoveryJournal::keepCopy() const
             return copy;
         copy = QStringLiteral("%1-%2.tonquill").arg(begin).arg(i);
     }
-    if (!AtomicFile::write(copy, contents.bytes).isEmpty())
-        return QString();
-    QFile::setPermissions(copy, ownersOnly);
-    return copy;
+    const QString error = AtomicFile::write(copy, contents.bytes, AtomicFile::Readers::OwnerOnly);
+    return error.isEmpty() ? copy : QString();
 }
 
 void RecoveryJournal::discard()

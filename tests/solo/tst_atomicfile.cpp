@@ -1,4 +1,5 @@
 #include "AtomicFile.h"
+#include "DocumentFile.h"
 #include "FullDisk.h"
 #include "SoloTestMain.h"
 
@@ -18,6 +19,7 @@ namespace
 struct System
 {
     QStringList calls;
+    QList<mode_t> modes; ///< of the files that were synced
     QString failingSync; ///< the file that the disk does not take
     int failures = 0;    ///< how often
 };
@@ -39,6 +41,9 @@ extern "C" int fsync(int descriptor)
 {
     const QString name = nameOf(descriptor);
     theSystem().calls.append("sync " + name);
+    struct stat status = {};
+    if (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode))
+        theSystem().modes.append(status.st_mode & 07777);
     if (name == theSystem().failingSync && theSystem().failures-- > 0) {
         errno = EIO;
         return -1;
@@ -63,6 +68,9 @@ private Q_SLOTS:
 
     void aNewFileIsLikeAnyOther();
     void fileAndFolderAreOnTheDiskWhenItReturns();
+    void theOwnersOwnIsNobodyElsesAtAnyMoment();
+    void tellsWhatIsLeftWhenItFails();
+    void aFailedSaveSaysWhatIsLeft();
     void modeAndAttributesAreKept();
     void anAccessListIsKept();
     void theAdministratorLeavesOwnerAndGroup();
@@ -178,6 +186,66 @@ void AtomicFileTest::fileAndFolderAreOnTheDiskWhenItReturns()
     theSystem().failingSync = m_folder->path();
     theSystem().failures = 1;
     QVERIFY(!AtomicFile::write(path(), "later").isEmpty());
+}
+
+void AtomicFileTest::theOwnersOwnIsNobodyElsesAtAnyMoment()
+{
+    const mode_t before = umask(0);
+    const auto write = [this] {
+        return AtomicFile::write(path(), "mine", AtomicFile::Readers::OwnerOnly);
+    };
+    QString error = write();
+    QVERIFY(chmod(QFile::encodeName(path()).constData(), 0644) == 0);
+    error += write();
+    umask(before);
+    QCOMPARE(error, QString());
+    QCOMPARE(theSystem().modes, QList<mode_t>({0600, 0600}));
+    QCOMPARE(statusOf(path()).st_mode & 07777, 0600U);
+}
+
+void AtomicFileTest::tellsWhatIsLeftWhenItFails()
+{
+    using AtomicFile::Left;
+    make(path());
+    const auto leftAfter = [this](const QString &failingSync, int failures) {
+        theSystem().failingSync = failingSync;
+        theSystem().failures = failures;
+        Left left = Left::AsBefore;
+        const QString error =
+            AtomicFile::write(path(), "after", AtomicFile::Readers::AsUsual, &left);
+        return error.isEmpty() ? QString() : QString::number(int(left)) + bytesOf(path());
+    };
+    QCOMPARE(leftAfter(m_folder->path(), 1), QString::number(int(Left::New)) + "after");
+    make(path());
+    QVERIFY(QFile(path()).exists() && link(QFile::encodeName(path()).constData(),
+                                           QFile::encodeName(path("other")).constData()) == 0);
+    QCOMPARE(leftAfter(path(), 1), QString::number(int(Left::AsBefore)) + "before");
+    QVERIFY(leftAfter(path(), 2).startsWith(QString::number(int(Left::Damaged))));
+}
+
+void AtomicFileTest::aFailedSaveSaysWhatIsLeft()
+{
+    const QString asBefore = "\nThe file is as it was before.";
+    const DocumentSnapshot document{{{728, 1052}, {12, 13, 704, 1026}}, 1, {}};
+    FileStamp stamp;
+    make(path());
+    theSystem().failingSync = m_folder->path();
+    theSystem().failures = 1;
+    QString error = DocumentFile::save(path(), document, &stamp);
+    QVERIFY2(error.contains("\nThe file is written, but"), qPrintable(error));
+    QVERIFY2(!error.contains(asBefore), qPrintable(error));
+    // It is known by its contents, so that the next save does not take it for another's.
+    QCOMPARE(stamp.changeAt(path()), FileStamp::Change::None);
+    QVERIFY(link(QFile::encodeName(path()).constData(),
+                 QFile::encodeName(path("other")).constData()) == 0);
+    theSystem().failingSync = path();
+    theSystem().failures = 1;
+    error = DocumentFile::save(path(), document, &stamp);
+    QVERIFY2(error.endsWith(asBefore), qPrintable(error));
+    theSystem().failures = 2;
+    error = DocumentFile::save(path(), document, &stamp);
+    QVERIFY2(error.contains("The file is damaged now."), qPrintable(error));
+    QVERIFY2(!error.contains(asBefore), qPrintable(error));
 }
 
 void AtomicFileTest::modeAndAttributesAreKept()
