@@ -2,6 +2,7 @@
 
 #include "EmbeddedPicture.h"
 #include "HtmlOutline.h"
+#include "TextExtent.h"
 
 #include <QUrl>
 
@@ -64,11 +65,31 @@ QString DocumentBounds::problemOf(const Any &item)
         return tr("There are more items than a document can have.");
     if (!std::visit([](const auto &one) { return liesNear(one); }, item))
         return tr("The item is too large or too far away.");
-    const auto *block = std::get_if<TextBlock>(&item);
-    const QString problem = block && block->isHtml ? problemOfHtml(block->text) : QString();
+    const QString problem = problemOfText(item);
     if (problem.isEmpty())
         ++m_items;
     return problem;
+}
+
+QString DocumentBounds::problemOfText(const Any &item)
+{
+    if (const auto *text = std::get_if<Text>(&item))
+        return problemOfExtent(TextExtent(*text));
+    const auto *block = std::get_if<TextBlock>(&item);
+    if (!block)
+        return QString();
+    const QString problem = block->isHtml ? problemOfHtml(block->text) : QString();
+    return problem.isEmpty() ? problemOfExtent(TextExtent(*block)) : problem;
+}
+
+QString DocumentBounds::problemOfExtent(const TextExtent &extent)
+{
+    if (extent.height() > highestText || m_textLines + extent.lines() > mostTextLines ||
+        m_wordSquares + extent.wordSquares() > mostWordSquares)
+        return tr("This text is too large.");
+    m_textLines += extent.lines();
+    m_wordSquares += extent.wordSquares();
+    return QString();
 }
 
 QString DocumentBounds::problemOfHtml(const QString &html)

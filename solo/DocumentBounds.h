@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+class TextExtent;
+
 /**
  * What a document may hold at most. A small file can ask for more time or memory than there is; no
  * document that was made by hand comes near to any of these.
@@ -34,6 +36,14 @@ public:
     static constexpr qsizetype deepestTables = 8;
     static constexpr double mostCells = 5'000;
 
+    /**
+     * The height of a text, in scene units; the lines of all, before any is wrapped; and the
+     * squares of the lengths of all words, each of which takes that long to lay out.
+     */
+    static constexpr double highestText = 8'000'000;
+    static constexpr double mostTextLines = 500'000;
+    static constexpr double mostWordSquares = 4e9;
+
     /** Pixels of all pictures in formatted text. */
     static constexpr qint64 mostPixels = 64'000'000;
 
@@ -41,9 +51,13 @@ public:
     QString problemOf(const ItemState::Any &item);
 
 private:
+    QString problemOfText(const ItemState::Any &item);
+    QString problemOfExtent(const TextExtent &extent);
     QString problemOfHtml(const QString &html);
 
     qsizetype m_items = 0;
     double m_cells = 0;
+    double m_textLines = 0;
+    double m_wordSquares = 0;
     qint64 m_pixels = 0;
 };

@@ -214,6 +214,36 @@ void DocumentFileTest::whatAskedForTooMuchIsLeftOut_data()
     QTest::newRow("a picture of 70 million pixels")
         << block("<img src=\"data:image/png;base64," + png.data().toBase64() + "\">")
         << "The pictures in this text are too large.";
+    const auto plain = [](const QString &text, int size) {
+        return "tonquill_textblock 1 2 0 0 90 20 wrap=89 font=\"Arial\" size=" +
+               QByteArray::number(size) + " text=" + QuotedFields::quoted(text).toUtf8();
+    };
+    const QString large = "This text is too large.";
+    QTest::newRow("a table in a frame of a billion")
+        << block("<table cellpadding=1000000000><tr><td>la</table>") << large;
+    QTest::newRow("cells in frames of a billion")
+        << block("<style>td{padding:1e9px}</style><table><tr><td>la</table>") << large;
+    QTest::newRow("2000 rows of 100 units")
+        << block("<table cellpadding=100>" + QString("<tr><td>la").repeated(2000)) << "";
+    QTest::newRow("2000 rows of 200000 units")
+        << block("<table cellpadding=100000>" + QString("<tr><td>la").repeated(2000)) << large;
+    QTest::newRow("500 pictures of a hundred thousand")
+        << block(QString("<img src=x width=100000 height=100000>").repeated(500)) << large;
+    QTest::newRow("lines a billion apart")
+        << block("<p style=\"line-height:1000000000%\">la la la") << large;
+    QTest::newRow("formatted letters as high as ten pages, 2000 of them")
+        << block("<p style=\"font-size:10000px\">" + QString("la ").repeated(2000)) << large;
+    QTest::newRow("letters as high as ten pages, 2000 of them")
+        << plain(QString("la ").repeated(2000), 10000) << large;
+    QTest::newRow("three of those") << plain("la la la", 10000) << "";
+    QTest::newRow("simple text as high, 2000 lines")
+        << "tonquill_text 1 2 font=\"Arial\" size=10000 color=#000000 text=" +
+               QuotedFields::quoted(QString("la\n").repeated(2000)).toUtf8()
+        << large;
+    QTest::newRow("a word of a million letters") << plain(QString(1'000'000, u'a'), 9) << large;
+    QTest::newRow("a million letters in words")
+        << plain(QString("la la lala ").repeated(90'000), 9) << "";
+    QTest::newRow("a million empty lines") << plain(QString(1'000'000, u'\n'), 9) << large;
     QTest::newRow("tablature a billion high")
         << QByteArray("tonquill_linetab 1 2 0 0 300 1000000000") << far;
     QTest::newRow("tablature of 100 pages")

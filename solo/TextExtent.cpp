@@ -1,0 +1,158 @@
+#include "TextExtent.h"
+
+#include "DocumentBounds.h"
+#include "SelfContainedText.h"
+
+#include <QFont>
+#include <QTextBlock>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+constexpr double pixelsPerPoint = 96.0 / 72;
+
+/** A line is not more than this much higher than its letters are said to be. */
+constexpr double lineSpacing = 1.6;
+
+/** Sizes of letters that go by names are at most this much larger than their surroundings. */
+constexpr double mostAdjustment = 3;
+
+double pixelsOf(const ItemState::Font &font)
+{
+    return font.sizeInPixels ? font.size : font.size * pixelsPerPoint;
+}
+
+double pixelsOf(const QTextCharFormat &format, double inherited)
+{
+    double pixels = inherited;
+    if (format.hasProperty(QTextFormat::FontPixelSize))
+        pixels = std::abs(double(format.intProperty(QTextFormat::FontPixelSize)));
+    else if (format.hasProperty(QTextFormat::FontPointSize))
+        pixels = std::fabs(format.fontPointSize()) * pixelsPerPoint;
+    const bool isAdjusted = format.hasProperty(QTextFormat::FontSizeAdjustment);
+    return isAdjusted ? pixels * mostAdjustment : pixels;
+}
+
+bool isLineEnd(QChar c)
+{
+    return c == u'\n' || c == QChar::ParagraphSeparator || c == QChar::LineSeparator;
+}
+
+/** The distance that a property stands for; 0 if it is none. */
+double lengthOf(int property, const QVariant &value)
+{
+    constexpr double indentation = 40;
+    const bool isLetters =
+        property == QTextFormat::FontPointSize || property == QTextFormat::LineHeight;
+    if (value.typeId() == qMetaTypeId<QTextLength>()) {
+        const auto length = value.value<QTextLength>();
+        return length.type() == QTextLength::FixedLength ? std::fabs(length.rawValue()) : 0;
+    }
+    if (property == QTextFormat::BlockIndent)
+        return std::fabs(value.toDouble()) * indentation;
+    return value.typeId() == QMetaType::Double && !isLetters ? std::fabs(value.toDouble()) : 0;
+}
+} // namespace
+
+TextExtent::TextExtent(const ItemState::TextBlock &block)
+    : m_width(block.textWidth)
+{
+    block.isHtml ? measureHtml(block) : measurePlain(block.text, block.font);
+}
+
+TextExtent::TextExtent(const ItemState::Text &text)
+    : m_width(-1)
+{
+    measurePlain(text.text, text.font);
+}
+
+void TextExtent::count(const QString &text)
+{
+    double letters = 0;
+    for (const QChar c : text) {
+        if (isLineEnd(c))
+            ++m_lines;
+        const bool isWordEnd = isLineEnd(c) || c == u' ' || c == u'\t';
+        if (isWordEnd)
+            m_wordSquares += letters * letters;
+        letters = isWordEnd ? 0 : letters + 1;
+    }
+    m_wordSquares += letters * letters;
+}
+
+/** The lines that a paragraph is broken into at most; two in a row are longer than the width. */
+double TextExtent::linesOf(QStringView paragraph, double pixels) const
+{
+    const double own = 1 + double(paragraph.count(QChar::LineSeparator));
+    if (m_width < 0)
+        return own;
+    const auto letters = double(paragraph.size());
+    return own + std::min(letters, 2 * letters * pixels / std::max(m_width, 1.0));
+}
+
+void TextExtent::measurePlain(const QString &text, const ItemState::Font &usedFont)
+{
+    count(text);
+    const double pixels = pixelsOf(usedFont);
+    const QList<QStringView> lines = QStringView(text).split(u'\n');
+    for (const QStringView line : lines)
+        m_height += linesOf(line, pixels) * pixels * lineSpacing;
+    if (m_height <= DocumentBounds::highestText || m_wordSquares > DocumentBounds::mostWordSquares)
+        return;
+    // Much text or large letters: only trying tells.
+    QFont font(usedFont.family);
+    font.setPixelSize(std::max(1, int(std::ceil(pixels))));
+    m_height = 0;
+    for (const QStringView line : lines) {
+        QTextLayout layout(line.toString(), font);
+        layout.beginLayout();
+        for (QTextLine one = layout.createLine(); one.isValid(); one = layout.createLine()) {
+            one.setLineWidth(m_width < 0 ? DocumentBounds::highestText : m_width);
+            m_height += one.height();
+        }
+        layout.endLayout();
+        if (m_height > DocumentBounds::highestText)
+            return;
+    }
+}
+
+void TextExtent::measureHtml(const ItemState::TextBlock &block)
+{
+    SelfContainedText document;
+    document.setHtml(block.text);
+    count(document.toRawText());
+    for (const QTextFormat &format : document.allFormats())
+        measureFormat(format);
+    // What stands in tables or lists may have any part of the width.
+    if (m_width >= 0 && m_longest > 0)
+        m_width = 0;
+    double places = 1;
+    for (QTextBlock part = document.begin(); part.isValid(); part = part.next()) {
+        ++places;
+        double pixels = pixelsOf(block.font);
+        for (auto at = part.begin(); !at.atEnd(); ++at) {
+            const QTextFragment fragment = at.fragment();
+            pixels = std::max(pixels, pixelsOf(fragment.charFormat(), pixelsOf(block.font)));
+            places += double(fragment.text().count(QChar::ObjectReplacementCharacter));
+        }
+        m_height += linesOf(part.text(), pixels) * pixels * lineSpacing * m_perLine;
+    }
+    // Above, below and around whatever stands anywhere.
+    m_height += 4 * places * m_longest;
+}
+
+void TextExtent::measureFormat(const QTextFormat &format)
+{
+    const QMap<int, QVariant> properties = format.properties();
+    for (auto it = properties.cbegin(); it != properties.cend(); ++it)
+        m_longest = std::max(m_longest, lengthOf(it.key(), it.value()));
+    if (!format.hasProperty(QTextFormat::LineHeight))
+        return;
+    const double lineHeight = std::fabs(format.doubleProperty(QTextFormat::LineHeight));
+    m_perLine = std::max(m_perLine, lineHeight / 100);
+    if (format.intProperty(QTextFormat::LineHeightType) != QTextBlockFormat::ProportionalHeight)
+        m_perLine = std::max(m_perLine, lineHeight);
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "ItemState.h"
+
+#include <QTextFormat>
+
+/**
+ * What a text would cost to lay out in its width. Qt never comes to the end of a text
+ * whose place it cannot count, and takes the square of a word's length for each.
+ */
+class TextExtent
+{
+public:
+    explicit TextExtent(const ItemState::TextBlock &block);
+    explicit TextExtent(const ItemState::Text &text);
+
+    /** Scene units down; rather too much than too little, but for plain text if it is much. */
+    double height() const { return m_height; }
+
+    /** The lines that the text itself has, before any is wrapped. */
+    double lines() const { return m_lines; }
+
+    /** The squares of the lengths of all words. */
+    double wordSquares() const { return m_wordSquares; }
+
+private:
+    void count(const QString &text);
+    double linesOf(QStringView paragraph, double pixels) const;
+    void measurePlain(const QString &text, const ItemState::Font &font);
+    void measureHtml(const ItemState::TextBlock &block);
+    void measureFormat(const QTextFormat &format);
+
+    double m_width = 0; ///< 0 if every word may have a line of its own, less if nothing is wrapped
+    double m_lines = 1;
+    double m_wordSquares = 0;
+    double m_height = 0;
+    double m_longest = 0; ///< the longest distance that a format asks for
+    double m_perLine = 1; ///< the most that a format widens lines by
+};
