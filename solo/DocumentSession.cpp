@@ -108,7 +108,6 @@ void DocumentSession::showUnnamed(const DocumentSnapshot &document, const QStrin
 
 void DocumentSession::showRecovered(const RecoveryJournal::Found &found)
 {
-    m_journal.takeOver();
     if (!found.problems.isEmpty()) {
         showUnnamed(found.document, found.path, true);
         return;

@@ -20,6 +20,9 @@ bool RecoveryOffer::make()
     const QString copy = found->problems.isEmpty() ? QString() : journal.keepCopy();
     const bool isWanted = wants(*found, copy);
     if (isWanted) {
+        // What could be kept nowhere else is not written over.
+        if (found->problems.isEmpty() || !copy.isEmpty())
+            journal.takeOver();
         m_session.showRecovered(*found);
     } else {
         journal.takeOver();
@@ -28,13 +31,16 @@ bool RecoveryOffer::make()
     return isWanted;
 }
 
+/** What is said above the name of a journal of which there is no copy. */
+QString RecoveryOffer::untilMoved()
+{
+    return tr("Until this file is moved away, no other changes are kept for recovery:");
+}
+
 void RecoveryOffer::tellUnreadable()
 {
     const QString copy = m_session.journal().keepCopy();
-    const QString details =
-        copy.isEmpty()
-            ? tr("Until this file is moved away, no other changes are kept for recovery:")
-            : tr("It is kept in this file:");
+    const QString details = copy.isEmpty() ? untilMoved() : tr("It is kept in this file:");
     const QString file = copy.isEmpty() ? m_session.journal().file() : copy;
     PlainMessageBox::warn(&m_window,
                           tr("Tonquill ended unexpectedly, and what was not saved cannot be read."),
@@ -61,14 +67,15 @@ bool RecoveryOffer::wants(const RecoveryJournal::Found &found, const QString &co
 }
 
 /** What the details say about a journal that can only be read in part. */
-QString RecoveryOffer::lossesOf(const RecoveryJournal::Found &found, const QString &copy)
+QString RecoveryOffer::lossesOf(const RecoveryJournal::Found &found, const QString &copy) const
 {
     if (found.problems.isEmpty())
         return QString();
     QString text =
         QStringLiteral("\n\n") + tr("Not everything can be read:") + u'\n' + found.problems;
     if (!copy.isEmpty())
-        text += QStringLiteral("\n\n") + tr("All that was kept is in this file:") + u'\n' +
-                QDir::toNativeSeparators(copy);
-    return text;
+        return text + QStringLiteral("\n\n") + tr("All that was kept is in this file:") + u'\n' +
+               QDir::toNativeSeparators(copy);
+    return text + QStringLiteral("\n\n") + untilMoved() + u'\n' +
+           QDir::toNativeSeparators(m_session.journal().file());
 }

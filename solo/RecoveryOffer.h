@@ -24,7 +24,8 @@ public:
 private:
     void tellUnreadable();
     bool wants(const RecoveryJournal::Found &found, const QString &copy);
-    static QString lossesOf(const RecoveryJournal::Found &found, const QString &copy);
+    static QString untilMoved();
+    QString lossesOf(const RecoveryJournal::Found &found, const QString &copy) const;
 
     QWidget &m_window;
     DocumentSession &m_session;
