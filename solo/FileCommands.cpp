@@ -93,10 +93,10 @@ void FileCommands::openFile(const QString &path)
     showFile(path, reading);
 }
 
-void FileCommands::showFile(const QString &path, const DocumentFile::Reading &reading)
+bool FileCommands::showFile(const QString &path, const DocumentFile::Reading &reading)
 {
     if (!isDocument(path, reading) || !mayShow(path, reading))
-        return;
+        return false;
     const QString file = QFileInfo(path).absoluteFilePath();
     const bool isWhole = reading.problems.isEmpty();
     if (isWhole && !reading.isOfHost)
@@ -104,6 +104,14 @@ void FileCommands::showFile(const QString &path, const DocumentFile::Reading &re
     else
         m_session.showUnnamed(reading.document, file, !isWhole);
     remember(file);
+    return true;
+}
+
+/** Shows the open document's file as another program left it. */
+bool FileCommands::reload()
+{
+    const QString path = m_session.path();
+    return showFile(path, DocumentFile::load(path, m_session.defaultPaper()));
 }
 
 void FileCommands::openCopy(const QString &path)
@@ -150,8 +158,9 @@ bool FileCommands::save()
     const Answer answer = change == FileStamp::Change::None
                               ? Answer::Overwrite
                               : OutsideChange(m_window, m_session, change).askBeforeSaving();
-    if (answer == Answer::Reload)
-        showFile(m_session.path(), DocumentFile::load(m_session.path(), m_session.defaultPaper()));
+    // Until it is saved, what the window shows is in no file.
+    if (change != FileStamp::Change::None && !(answer == Answer::Reload && reload()))
+        m_session.markUnsaved();
     return (answer == Answer::Overwrite && saveTo(m_session.path())) ||
            (answer == Answer::SaveElsewhere && saveAs());
 }
@@ -169,10 +178,8 @@ void FileCommands::lookForOutsideChange()
     if (change == FileStamp::Change::None)
         return;
     m_session.edits().check();
-    const QString path = m_session.path();
-    if (OutsideChange(m_window, m_session, change).tellAndOfferReload())
-        showFile(path, DocumentFile::load(path, m_session.defaultPaper()));
-    else
+    const bool isReloadWanted = OutsideChange(m_window, m_session, change).tellAndOfferReload();
+    if (!isReloadWanted || !reload())
         m_session.markUnsaved();
 }
 

@@ -43,7 +43,8 @@ public Q_SLOTS:
 
 private:
     bool saveTo(const QString &path);
-    void showFile(const QString &path, const DocumentFile::Reading &reading);
+    bool reload();
+    bool showFile(const QString &path, const DocumentFile::Reading &reading);
     bool isDocument(const QString &path, const DocumentFile::Reading &reading);
     bool mayShow(const QString &path, const DocumentFile::Reading &reading);
     QString suggestedPath(const QString &suffix) const;

@@ -1,4 +1,5 @@
 #include "DocumentFile.h"
+#include "FullDisk.h"
 #include "MenuBar.h"
 #include "ModalAnswer.h"
 #include "PaletteTable.h"
@@ -50,7 +51,9 @@ private Q_SLOTS:
     void openingABrokenFileChangesNothing();
     void aFileTooLargeToOpenChangesNothing();
     void partOfADamagedFileIsOffered();
+    void aReloadThatShowsNothingLeavesUnsavedWork();
     void aRecoveredDocumentIsUnsaved();
+    void aJournalThatCannotBeCopiedIsNotWrittenOver();
     void boxesShowNamesAsTheyStand_data();
     void boxesShowNamesAsTheyStand();
     void theTitleShowsAnyName();
@@ -430,6 +433,23 @@ void SoloWindowTest::partOfADamagedFileIsOffered()
     QVERIFY(m_solo->session().isModified());
 }
 
+void SoloWindowTest::aReloadThatShowsNothingLeavesUnsavedWork()
+{
+    const QString path = fileOf("tonquill-document 1\ntonquill_bitmap 1 2 19\ntonquill-end\n");
+    m_solo->files().openFile(path);
+    QVERIFY(!m_solo->session().isModified());
+    fileOf("no document\n", QFileInfo(path).fileName());
+    QString said;
+    answerBox(QMessageBox::AcceptRole);
+    QTimer::singleShot(0, qApp, [&said] {
+        QTimer::singleShot(0, qApp, [&said] { answerBox(QMessageBox::AcceptRole, &said); });
+    });
+    m_solo->files().lookForOutsideChange();
+    QVERIFY2(said.contains("This is not a Tonquill document."), qPrintable(said));
+    QCOMPARE(m_solo->session().edits().document().items, QByteArrayList{"tonquill_bitmap 1 2 19"});
+    QVERIFY(m_solo->session().isModified());
+}
+
 void SoloWindowTest::aRecoveredDocumentIsUnsaved()
 {
     const QString path = fileOf("untouched");
@@ -444,6 +464,29 @@ void SoloWindowTest::aRecoveredDocumentIsUnsaved()
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), QByteArray("untouched"));
+}
+
+void SoloWindowTest::aJournalThatCannotBeCopiedIsNotWrittenOver()
+{
+    const QByteArray bytes = "tonquill-recovery  \ntonquill-document 1\ntonquill_bitmap 1 2 19\n" +
+                             QByteArray(10'000, 'x') + "\ntonquill-end\n";
+    const QString journal = fileOf(bytes, "recovery.tonquill");
+    m_solo.reset(); // there is one main window at a time
+    m_solo = std::make_unique<SoloWindow>(m_folder->path());
+    QString said;
+    answerBox(QMessageBox::AcceptRole, &said);
+    {
+        const FullDisk full(4096);
+        m_solo->files().offerRecovery();
+    }
+    QVERIFY2(said.contains("Until this file is moved away"), qPrintable(said));
+    QVERIFY2(said.contains(journal), qPrintable(said));
+    QCOMPARE(m_solo->session().edits().document().items, QByteArrayList{"tonquill_bitmap 1 2 19"});
+    placeNote();
+    QVERIFY(!m_solo->session().journal().write(m_solo->session().edits().document(), QString()));
+    QFile file(journal);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), bytes);
 }
 
 void SoloWindowTest::boxesShowNamesAsTheyStand_data()
