@@ -12,8 +12,9 @@
 
 namespace
 {
-constexpr int answerTime = 5000; // milliseconds
-constexpr int retryPause = 20;   // milliseconds
+/** Milliseconds in all: nobody waits longer for a window, or for a word why there is none. */
+constexpr int answerTime = 2000;
+constexpr int retryPause = 20; // milliseconds
 const QByteArray answer = QByteArrayLiteral("ok\n");
 
 /**
@@ -82,14 +83,14 @@ bool SingleInstance::handOver(const QString &path) const
     const QDeadlineTimer deadline(answerTime);
     while (!deadline.hasExpired()) {
         socket.connectToServer(m_socketPath);
-        if (socket.waitForConnected(answerTime))
+        if (socket.waitForConnected(int(deadline.remainingTime())))
             break;
         QThread::msleep(retryPause);
     }
     socket.write(QUrl::toPercentEncoding(path) + '\n');
     socket.flush();
     while (socket.state() == QLocalSocket::ConnectedState && !socket.canReadLine()) {
-        if (!socket.waitForReadyRead(answerTime))
+        if (!socket.waitForReadyRead(int(deadline.remainingTime())))
             return false;
     }
     return socket.readLine() == answer;
