@@ -26,8 +26,8 @@ MUTATIONS = [
     Mutation(
         "items behind a deleted page move up by the whole pitch",
         "document/TonquillScenePages.cpp",
-        "const double shift = pageSpacing - paperRect.height();",
-        "const double shift = -pagePitch();",
+        "deletePage(page, paperRect.height() - pageSpacing);",
+        "deletePage(page, pagePitch());",
         "tst_pages",
     ),
     Mutation(
