@@ -59,6 +59,10 @@ Die Datei ist jetzt beschädigt. Ihr früherer Inhalt steht in „%2“.</transl
         <source>The pictures in this text are too large.</source>
         <translation>Die Bilder in diesem Text sind zu groß.</translation>
     </message>
+    <message>
+        <source>This text is too large.</source>
+        <translation>Dieser Text ist zu groß.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentFile</name>
@@ -73,6 +77,14 @@ Die Datei ist jetzt beschädigt. Ihr früherer Inhalt steht in „%2“.</transl
     <message>
         <source>There is not enough memory for this document.</source>
         <translation>Für dieses Dokument reicht der Speicher nicht.</translation>
+    </message>
+    <message>
+        <source>The file is as it was before.</source>
+        <translation>Die Datei ist, wie sie vorher war.</translation>
+    </message>
+    <message>
+        <source>The file is written, but a power cut may take it back until it is saved again.</source>
+        <translation>Die Datei ist geschrieben, doch ein Stromausfall kann das zurücknehmen, bis sie noch einmal gespeichert wird.</translation>
     </message>
 </context>
 <context>
@@ -201,12 +213,6 @@ Den Rest zeigen, %2 Elemente? Die Datei bleibt, wie sie ist, bis Sie speichern.<
     <message>
         <source>“%1” could not be saved.</source>
         <translation>„%1“ konnte nicht gespeichert werden.</translation>
-    </message>
-    <message>
-        <source>%1
-The file is as it was before.</source>
-        <translation>%1
-Die Datei ist, wie sie vorher war.</translation>
     </message>
     <message>
         <source>Export as PDF</source>
