@@ -59,10 +59,15 @@ qint64 pixelsOf(const QStringList &pictures)
 }
 } // namespace
 
+QString DocumentBounds::tooManyItems()
+{
+    return tr("There are more items than a document can have.");
+}
+
 QString DocumentBounds::problemOf(const Any &item)
 {
     if (m_items >= mostItems)
-        return tr("There are more items than a document can have.");
+        return tooManyItems();
     if (!std::visit([](const auto &one) { return liesNear(one); }, item))
         return tr("The item is too large or too far away.");
     const QString problem = problemOfText(item);

@@ -47,6 +47,9 @@ public:
     /** Pixels of all pictures in formatted text. */
     static constexpr qint64 mostPixels = 64'000'000;
 
+    /** What is said of more than `mostItems`. */
+    static QString tooManyItems();
+
     /** Why the document cannot have this item too; empty if it can, and then it counts. */
     QString problemOf(const ItemState::Any &item);
 

@@ -37,6 +37,27 @@ QString whatIsLeft(AtomicFile::Left left)
     return QString();
 }
 
+/**
+ * Why the document could not be opened again as a whole; empty if it could. Only texts can get
+ * there by hand, by what is pasted into them.
+ */
+QString problemOfReading(const QList<QByteArray> &items)
+{
+    static const QByteArray everyText("tonquill_text");
+    if (items.size() > DocumentBounds::mostItems)
+        return DocumentBounds::tooManyItems();
+    DocumentBounds bounds;
+    for (const QByteArray &line : items) {
+        if (!line.startsWith(everyText))
+            continue;
+        const auto text = ItemRecords::parse(QString::fromUtf8(line));
+        const QString problem = text ? bounds.problemOf(*text) : QString();
+        if (!problem.isEmpty())
+            return problem;
+    }
+    return QString();
+}
+
 QString noMemory()
 {
     return QCoreApplication::translate("DocumentFile",
@@ -101,6 +122,8 @@ QString DocumentFile::save(const QString &path, const DocumentSnapshot &document
     const QByteArray bytes = format(document);
     AtomicFile::Left left = AtomicFile::Left::AsBefore;
     QString error = OrdinaryFile::problemOfSize(bytes.size());
+    if (error.isEmpty())
+        error = problemOfReading(document.items);
     if (error.isEmpty())
         error = AtomicFile::write(path, bytes, AtomicFile::Readers::AsUsual, &left);
     if (stamp && (error.isEmpty() || left == AtomicFile::Left::New))

@@ -53,8 +53,8 @@ qint64 largestFile();
 Reading load(const QString &path, const Paper &defaultPaper);
 
 /**
- * Writes a file atomically. The answer is empty, or says what went wrong: also when the file would
- * be larger than can be read again. Only if nothing did, `stamp` is what the file is then.
+ * Writes a file atomically. The answer is empty, or says what went wrong: also when the
+ * document is more than could be read again. Only if nothing did, `stamp` is what the file is then.
  */
 QString save(const QString &path, const DocumentSnapshot &document, FileStamp *stamp = nullptr);
 } // namespace DocumentFile

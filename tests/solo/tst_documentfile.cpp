@@ -302,6 +302,14 @@ void DocumentFileTest::whatCouldNotBeOpenedAgainIsNotSaved()
     DocumentSnapshot large = twoNotes();
     large.items.append(QByteArray(DocumentFile::largestFile(), 'x'));
     QVERIFY(DocumentFile::save(path, large).startsWith("The file is too large: "));
+    // What was pasted into a block may be more than is read again.
+    DocumentSnapshot nested = twoNotes();
+    nested.items.append("tonquill_textblock 1 2 0 0 90 20 wrap=89 font=\"Arial\" size=9 html=" +
+                        QuotedFields::quoted(QString("<table><tr><td>").repeated(22)).toUtf8());
+    QVERIFY(DocumentFile::save(path, nested).startsWith("The parts of this text are nested "));
+    DocumentSnapshot many = twoNotes();
+    many.items = QByteArrayList(200'001, many.items.constFirst());
+    QVERIFY(DocumentFile::save(path, many).startsWith("There are more items "));
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), twoNotesFile);
