@@ -13,7 +13,7 @@
 namespace
 {
 /** Milliseconds in all: nobody waits longer for a window, or for a word why there is none. */
-constexpr int answerTime = 2000;
+constexpr int answerTime = 4000;
 constexpr int retryPause = 20; // milliseconds
 const QByteArray answer = QByteArrayLiteral("ok\n");
 
