@@ -10,6 +10,9 @@ from desktop import Desktop
 from solo import BOX, NOTE, SAVE_AS, Solo, document
 from workbench import DEADLINE, stop_after, tool, wait_until
 
+# Seconds; with a sanitizer it takes ten times as long as it has to for a dialog to show.
+LONG_EXPORT = 60
+
 PROGRAMS = pathlib.Path(sys.argv.pop(1))
 
 
@@ -60,6 +63,7 @@ class SecondStartTest(unittest.TestCase):
         # The progress of a print that proves to be a long one.
         solo.titled(BOX)
         self.assertEqual(solo.start_again(self.other), 0)
+        wait_until(pdf.exists, "the pages are in the file", LONG_EXPORT)
         solo.main(r"other\.tonquill")
         told = self.desktop.run([tool("pdfinfo"), pdf]).stdout
         self.assertIn(f"Pages:           {pages}\n", told)
