@@ -11,12 +11,12 @@ from workbench import stop_after
 PROGRAMS, PICTURES = map(pathlib.Path, (sys.argv.pop(1), sys.argv.pop(1)))
 
 # US Letter: a page and the gap below it are 1039.5 units high, the gap is 49.5.
-PITCH, GAP = 1039.5, 49.5
+PITCH = 1039.5
 NOTE = "tonquill_bitmap 300 {} {}"
 IDS = (19, 20, 21)
 ON_PAGES = [NOTE.format(f"{page * PITCH + 300:g}", number) for page, number in enumerate(IDS)]
 # What follows a deleted page moves up by a page less a gap.
-MOVED_UP = NOTE.format(f"{2 * PITCH + 300 - (PITCH - 2 * GAP):g}", IDS[2])
+MOVED_UP = NOTE.format(f"{2 * PITCH + 300 - PITCH:g}", IDS[2])
 PAPER = "tonquill_paper 748 990 22.5 22.5 703 945"
 
 
