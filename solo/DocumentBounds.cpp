@@ -64,6 +64,16 @@ QString DocumentBounds::tooManyItems()
     return tr("There are more items than a document can have.");
 }
 
+QString DocumentBounds::nestedTooDeeply()
+{
+    return tr("The parts of this text are nested too deeply.");
+}
+
+QString DocumentBounds::tablesTooLarge()
+{
+    return tr("The tables in this text are too large.");
+}
+
 QString DocumentBounds::problemOf(const Any &item)
 {
     if (m_items >= mostItems)
@@ -84,7 +94,11 @@ QString DocumentBounds::problemOfText(const Any &item)
     if (!block)
         return QString();
     const QString problem = block->isHtml ? problemOfHtml(block->text) : QString();
-    return problem.isEmpty() ? problemOfExtent(TextExtent(*block)) : problem;
+    if (!problem.isEmpty())
+        return problem;
+    const TextExtent extent(*block);
+    const QString problemThen = problemOfTables(extent);
+    return problemThen.isEmpty() ? problemOfExtent(extent) : problemThen;
 }
 
 QString DocumentBounds::problemOfExtent(const TextExtent &extent)
@@ -97,17 +111,27 @@ QString DocumentBounds::problemOfExtent(const TextExtent &extent)
     return QString();
 }
 
+/** Told once more, of what was really read: the tags alone have kept that within bounds. */
+QString DocumentBounds::problemOfTables(const TextExtent &extent)
+{
+    if (extent.tableDepth() > deepestTables)
+        return nestedTooDeeply();
+    if (m_cells + extent.cells() > mostCells)
+        return tablesTooLarge();
+    m_cells += extent.cells();
+    return QString();
+}
+
 QString DocumentBounds::problemOfHtml(const QString &html)
 {
     const HtmlOutline outline(html);
     if (outline.depth() > deepestText || outline.tableDepth() > deepestTables)
-        return tr("The parts of this text are nested too deeply.");
+        return nestedTooDeeply();
     if (m_cells + outline.cells() > mostCells)
-        return tr("The tables in this text are too large.");
+        return tablesTooLarge();
     const qint64 pixels = pixelsOf(outline.pictures());
     if (m_pixels + pixels > mostPixels)
         return tr("The pictures in this text are too large.");
-    m_cells += outline.cells();
     m_pixels += pixels;
     return QString();
 }

@@ -54,8 +54,11 @@ public:
     QString problemOf(const ItemState::Any &item);
 
 private:
+    static QString nestedTooDeeply();
+    static QString tablesTooLarge();
     QString problemOfText(const ItemState::Any &item);
     QString problemOfExtent(const TextExtent &extent);
+    QString problemOfTables(const TextExtent &extent);
     QString problemOfHtml(const QString &html);
 
     qsizetype m_items = 0;

@@ -6,6 +6,7 @@
 #include <QFont>
 #include <QTextBlock>
 #include <QTextLayout>
+#include <QTextTable>
 
 #include <algorithm>
 #include <cmath>
@@ -124,6 +125,7 @@ void TextExtent::measureHtml(const ItemState::TextBlock &block)
     SelfContainedText document;
     document.setHtml(block.text);
     count(document.toRawText());
+    measureTables(*document.rootFrame(), 0);
     for (const QTextFormat &format : document.allFormats())
         measureFormat(format);
     // What stands in tables or lists may have any part of the width.
@@ -142,6 +144,18 @@ void TextExtent::measureHtml(const ItemState::TextBlock &block)
     }
     // Above, below and around whatever stands anywhere.
     m_height += 4 * places * m_longest;
+}
+
+void TextExtent::measureTables(const QTextFrame &around, qsizetype depth)
+{
+    m_tableDepth = std::max(m_tableDepth, depth);
+    for (const QTextFrame *frame : around.childFrames()) {
+        const auto *table = qobject_cast<const QTextTable *>(frame);
+        const qsizetype within = depth + (table ? 1 : 0);
+        if (table)
+            m_cells += double(table->rows()) * table->columns() * std::exp2(double(within));
+        measureTables(*frame, within);
+    }
 }
 
 void TextExtent::measureFormat(const QTextFormat &format)

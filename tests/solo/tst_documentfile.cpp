@@ -199,6 +199,9 @@ void DocumentFileTest::whatAskedForTooMuchIsLeftOut_data()
     QTest::newRow("8 tables in each other") << block(QString("<table><tr><td>").repeated(8)) << "";
     QTest::newRow("5000 parts in each other")
         << block(QString("<ul><li>").repeated(2500)) << nested;
+    // The cells at the beginning have no table, and Qt makes one for them.
+    QTest::newRow("8 tables in each other, and one that has no tag")
+        << block("<td></tr><td>" + QString("<table><tr><td>").repeated(8)) << nested;
     QTest::newRow("100 cells that take 20000 columns")
         << block("<table><tr>" + QString("<td colspan=20000>").repeated(100)) << tables;
     QTest::newRow("cells that take 20000 rows")
