@@ -4,6 +4,7 @@ import hashlib
 import pathlib
 import signal
 import sys
+import time
 import unittest
 
 from desktop import Desktop
@@ -12,6 +13,11 @@ from workbench import DEADLINE, stop_after, tool, wait_until
 
 # Seconds; with a sanitizer it takes ten times as long.
 LONG_EXPORT = 60
+NOTICED_AS_LONG = 1.5
+
+# A4, and the scene units from page to page.
+PAPER = "tonquill_paper 727.76 1052.1 12.32 12.6 703.12 1026.9"
+PITCH = 1.05 * 1052.1
 
 PROGRAMS = pathlib.Path(sys.argv.pop(1))
 
@@ -54,13 +60,18 @@ class SecondStartTest(unittest.TestCase):
     def test_waits_for_the_end_of_an_export(self):
         long, pdf = self.desktop.folder / "long.tonquill", self.desktop.folder / "long.pdf"
         pages, per_page = 4000, 20
-        glyphs = [(x * 30, page * 1100 + 200) for page in range(pages) for x in range(per_page)]
-        long.write_text(document(*glyphs).replace("pagecount 1", f"pagecount {pages}"))
+        tops = [page * PITCH for page in range(pages)]
+        glyphs = [(x * 30, round(top) + 200) for top in tops for x in range(per_page)]
+        fine = f'tonquill_text 300 {tops[-1] + 200} text="Fine" font="Courier" size=12 color=#000000'
+        first, _, *items, end = document(*glyphs).splitlines()
+        lines = [first, f"tonquill_pagecount {pages}", PAPER, *items, fine, end, ""]
+        long.write_text("\n".join(lines))
         solo = Solo(self.desktop, PROGRAMS, long, window=r"^long\.tonquill –")
         self.desktop.key("ctrl+e")
         solo.titled("^Export as PDF$")
         solo.type_path(pdf)
-        # It stands still in the middle of the pages, so that the other start comes then.
+        # It stands still in the middle of the pages, so that the other start comes then, and for
+        # so long that the print counts as a long one, which has events processed.
         pages_begun = lambda: list(self.desktop.folder.glob("*/export.pdf"))
         wait_until(pages_begun, "the first pages are being written")
         solo.process.send_signal(signal.SIGSTOP)
@@ -68,12 +79,15 @@ class SecondStartTest(unittest.TestCase):
         before = self.connections()
         again = self.desktop.start([solo.program, self.other], log="again.log")
         wait_until(lambda: self.connections() > before, "the second start calls the first")
+        time.sleep(NOTICED_AS_LONG)
         solo.process.send_signal(signal.SIGCONT)
         self.assertEqual(again.wait(DEADLINE), 0)
         wait_until(pdf.exists, "the pages are in the file", LONG_EXPORT)
         solo.main(r"other\.tonquill")
         told = self.desktop.run([tool("pdfinfo"), pdf]).stdout
         self.assertIn(f"Pages:           {pages}\n", told)
+        last_page = ["-f", str(pages), "-l", str(pages), pdf, "-"]
+        self.assertIn("Fine", self.desktop.run([tool("pdftotext"), *last_page]).stdout)
 
     def connections(self):
         """How many sockets there are of the name at which the first start listens."""
