@@ -7,13 +7,13 @@
 #include <QGraphicsScene>
 
 /**
- * The floor of most rows: a plain toolkit scene with the items' toolkit classes, each with one
+ * The floor of most rows: a plain Qt scene with the items' Qt classes, each with one
  * child, and with nothing of the editor.
  */
 class BareScene : public QGraphicsScene
 {
 public:
-    /** Pixmap items as the toolkit has them, or ones that are QObjects with a slot as well. */
+    /** Pixmap items as Qt has them, or ones that are QObjects with a slot as well. */
     enum class Glyphs { Plain, CallableByName };
 
     /** Empty, as large as the pages that `count` items take. */
@@ -25,7 +25,7 @@ public:
     /** The items without their children, in the order in which they were added. */
     const QList<QGraphicsItem *> &bareItems() const { return m_items; }
 
-    /** Has the toolkit do what it puts off until the next event and the next painting. */
+    /** Has Qt do what it puts off until the next event and the next painting. */
     void settle();
 
 private:

@@ -9,7 +9,7 @@ using Measure = std::function<double(int count)>;
 
 enum class Unit { Seconds, Bytes };
 
-/** One operation of the editor beside its floor: the least that the toolkit lets it cost. */
+/** One operation of the editor beside its floor: the least that Qt lets it cost. */
 struct Comparison
 {
     std::string operation;

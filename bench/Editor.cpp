@@ -22,7 +22,7 @@ Editor::~Editor()
         window().socket.disconnectFromServer();
         m_host.reset();
     }
-    // First what the toolkit puts off: it looks for each item that goes among all that still wait.
+    // First what Qt puts off: it looks for each item that goes among all that still wait.
     QCoreApplication::processEvents();
     scene().clearScene();
     QCoreApplication::processEvents();

@@ -25,7 +25,7 @@ public:
     /** Builds the document from its records, lays its pages and shows it for the first time. */
     void load(const SampleDocument::Samples &samples);
 
-    /** Has the toolkit do what it puts off until the next event and the next painting. */
+    /** Has Qt do what it puts off until the next event and the next painting. */
     void settle();
 
     /** Connects the window with a host. */

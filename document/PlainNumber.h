@@ -6,7 +6,7 @@
 
 /**
  * The value of a text of one to nine digits, with or without a minus sign in front; nothing for any
- * other text. Nearly all numbers of a document are such, and the toolkit, which reads the others as
+ * other text. Nearly all numbers of a document are such, and Qt, which reads the others as
  * well, takes ten times as long.
  */
 inline std::optional<int> plainNumber(QStringView text)

@@ -95,7 +95,7 @@ Record parseText(const QString &, QStringView rest)
     if (fields.count() < textFields)
         return {};
     // The colour was written with its alpha, eight hexadecimal digits, which no int holds: it
-    // reads as 0. The angle is read as a whole number. Both are meant.
+    // reads as 0. The angle is read as a whole number. Both are intentional.
     return Records::Text{fields.number(0), fields.number(1),    fields.number(2),
                          fields.number(3), fields.text(4),      fields.text(5),
                          fields.number(6), fields.hexNumber(7), double(fields.number(8))};

@@ -12,7 +12,7 @@
  * A record is a line of fields with one blank between them, the first a keyword; only a text
  * block's record spans several lines. Coordinates and sizes are whole scene units.
  *
- * What is written is not always what is read back, and that is meant: a simple text of several
+ * What is written is not always what is read back, which is intentional: a simple text of several
  * words loses all but the first and reads its later fields from the wrong places, its colour does
  * not fit the number it is read as and comes back black, its fractional angle comes back as 0,
  * and a text block gains the line break in front of its end keyword.

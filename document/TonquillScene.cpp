@@ -58,10 +58,10 @@ void TonquillScene::addNewItem(QGraphicsItem *item)
 }
 
 /**
- * The toolkit chooses the depth of its index for the items that it finds when it first needs it,
+ * Qt chooses the depth of its index for the items that it finds when it first needs it,
  * and keeps to it whatever comes: found for ten items, it would search tens of thousands at every
  * move of the pointer. So the depth is chosen here, anew whenever the number of items has doubled.
- * A leaf for two to four of them is found as quickly as the toolkit's two to four leaves for each
+ * A leaf for two to four of them is found as quickly as Qt's two to four leaves for each
  * one, is built sooner, and spares a sixth of a document's memory.
  */
 void TonquillScene::fitIndexToItems()
@@ -113,20 +113,20 @@ void TonquillScene::destroyItems(const QList<QGraphicsItem *> &items)
 {
     update(); // all at once, and not item by item
     if (items.size() >= manyItems)
-        moveToFrontOfToolkitsList(items);
-    // An item that is deleted while it stands on the scene can no longer say where it is: the
-    // toolkit then goes through the whole of its index, once for however many.
+        moveToFrontOfQtsList(items);
+    // An item that is deleted while it stands on the scene can no longer say where it is: Qt
+    // then goes through the whole of its index, once for however many.
     if (items.size() < someItems)
         std::for_each(items.cbegin(), items.cend(), [this](auto *item) { removeItem(item); });
     qDeleteAll(items);
 }
 
 /**
- * The toolkit takes an item off its list of top-level items by looking from the front and closing
+ * Qt takes an item off its list of top-level items by looking from the front and closing
  * the gap, so taking off many costs the square of their number. It costs nothing at the front of
- * the list, which the toolkit sorts by z when it works without its index.
+ * the list, which Qt sorts by z when it works without its index.
  */
-void TonquillScene::moveToFrontOfToolkitsList(const QList<QGraphicsItem *> &items)
+void TonquillScene::moveToFrontOfQtsList(const QList<QGraphicsItem *> &items)
 {
     for (qsizetype i = 0; i < items.size(); ++i)
         items[i]->setZValue(belowAllItems + static_cast<qreal>(i));

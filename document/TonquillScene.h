@@ -93,7 +93,7 @@ public:
 
     /**
      * All items, the topmost first, as items() has them, but quickly also after an item moved:
-     * away from its place in the toolkit's index, it makes the sorting take five times as long.
+     * away from its place in Qt's index, it makes the sorting take five times as long.
      */
     QList<QGraphicsItem *> itemsFromTop() const;
 
@@ -144,7 +144,7 @@ private:
 
     // Items
     void fitIndexToItems();
-    void moveToFrontOfToolkitsList(const QList<QGraphicsItem *> &items);
+    void moveToFrontOfQtsList(const QList<QGraphicsItem *> &items);
 
     // Pointer
     QGraphicsItem *itemUnder(QPointF scenePos) const;

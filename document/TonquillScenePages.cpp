@@ -69,7 +69,7 @@ void TonquillScene::insertPageAt(double top)
 }
 
 /**
- * To be called after the scene's rectangle was set, which drops the toolkit's index: until that,
+ * To be called after the scene's rectangle was set, which drops Qt's index: until that,
  * each item that moves is taken out of the index by itself.
  */
 void TonquillScene::moveDown(const QList<QGraphicsItem *> &items, double way)
@@ -126,14 +126,14 @@ namespace
 /** True for the items of the document; their shape is the rectangle of their bounds. */
 bool isDocumentItem(const QGraphicsItem &item)
 {
-    // The type of a glyph is the toolkit's default, which an embedding program's items may have.
+    // The type of a glyph is Qt's default, which an embedding program's items may have.
     if (item.type() == TonquillBitmap::Type)
         return typeid(item) == typeid(TonquillBitmap);
     return item.type() > TonquillBitmap::Type && item.type() <= TonquillVectorTriplet::Type;
 }
 
 /**
- * Whether the item's shape reaches into the area. The toolkit compares outlines, which takes ten
+ * Whether the item's shape reaches into the area. Qt compares outlines, which takes ten
  * times as long as moving the item, so it is asked only about items on the area's edge and about
  * those whose shape may be anything.
  */

@@ -68,7 +68,7 @@ void TonquillScene::mousePressEvent(QGraphicsSceneMouseEvent *event)
 bool TonquillScene::leaveOrKeepTextBlock(QGraphicsSceneMouseEvent *event)
 {
     if (TonquillTextBlock *block = editedBlockAt(event->scenePos())) {
-        // A block dragged earlier keeps the toolkit's grab and would get the press instead.
+        // A block dragged earlier keeps Qt's grab and would get the press instead.
         if (mouseGrabberItem() && mouseGrabberItem() != block)
             mouseGrabberItem()->ungrabMouse();
         QGraphicsScene::mousePressEvent(event);
@@ -141,7 +141,7 @@ void TonquillScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
         selectByRubberBand();
         return;
     }
-    // What the toolkit delivers to its grabber is not forwarded to the same item again: one
+    // What Qt delivers to its grabber is not forwarded to the same item again: one
     // release would open a block's size menu twice.
     ItemReference served;
     if (editedBlockAt(event->scenePos())) {

@@ -50,7 +50,7 @@ ItemReference TonquillScene::constructDocument(QStringView records)
 {
     // A glyph that is inserted makes the scene drop the item that waits to be placed.
     const QList<ItemReference> waiting = std::exchange(m_waiting, {});
-    // Once all has to be painted, the toolkit keeps no list of what each item would have painted
+    // Once all has to be painted, Qt keeps no list of what each item would have painted
     // anew, which takes more time and memory than the items.
     update();
     m_lastBuilt = nullptr;
@@ -135,7 +135,7 @@ void TonquillScene::buildText(const Records::Text &record, bool adding, int offs
     addNewItem(item);
     item->setRotation(record.rotation);
     item->updateFrame();
-    // A simple text gets the offset twice. That is meant.
+    // A simple text gets the offset twice. That is intentional.
     place(item, record.x, record.y, offset == atCursor ? atCursor : 2.0 * offset);
     update();
 }

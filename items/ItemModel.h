@@ -65,7 +65,7 @@ QFont largeBoldFont();
 
 /**
  * Makes `item` the scene's mouse grabber. A text block keeps its grab after a drag, so the grab
- * of another item is taken away first: the toolkit would refuse the new one.
+ * of another item is taken away first: Qt would refuse the new one.
  */
 void takeMouseGrab(QGraphicsItem *item);
 

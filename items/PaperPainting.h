@@ -51,7 +51,7 @@ QFont inSceneUnits(const QFont &font);
  */
 void drawText(QPainter *painter, const QGraphicsTextItem &item, const QRectF &exposed);
 
-/** The two-coloured dashed outline with which the toolkit marks a selected item. */
+/** The two-coloured dashed outline with which Qt marks a selected item. */
 void drawSelectionOutline(QPainter *painter, const QRectF &bounds,
                           const QStyleOptionGraphicsItem &option);
 } // namespace PaperPainting

@@ -17,7 +17,7 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION sound)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The fonts behind "Arial" and the like, what the toolkit says in other languages, and what opens a
+# The fonts behind "Arial" and the like, what Qt says in other languages, and what opens a
 # symbols reference file.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation, qt6-translations-l10n, xdg-utils")
 set(CPACK_STRIP_FILES ON)

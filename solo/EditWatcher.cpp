@@ -201,7 +201,7 @@ bool EditWatcher::redo()
 void EditWatcher::showCurrent()
 {
     m_typedIn.clear();
-    // What the toolkit tells differently after rebuilding, such as formatted text, is no edit.
+    // What Qt tells differently after rebuilding, such as formatted text, is no edit.
     const DocumentSnapshot wanted = m_history.current();
     const ItemSelection selection = m_history.selection();
     if (const auto shown =

@@ -3,7 +3,7 @@
 #include <QMessageBox>
 
 /**
- * A box whose texts are shown as they stand. Left to itself the toolkit takes a text with "<" for
+ * A box whose texts are shown as they stand. Left to itself Qt takes a text with "<" for
  * a page of the web, with pictures and links; but so may a file be called.
  */
 class PlainMessageBox : public QMessageBox

@@ -191,7 +191,7 @@ namespace
 template <typename Result, typename Visitor>
 Result visitItem(const QGraphicsItem *item, const Visitor &visit, const Result &otherwise)
 {
-    // By its class: an item of an embedding program may have the same type, the toolkit's default.
+    // By its class: an item of an embedding program may have the same type, Qt's default.
     if (item->type() == TonquillBitmap::Type) {
         const auto *glyph = dynamic_cast<const TonquillBitmap *>(item);
         return glyph ? visit(*glyph) : otherwise;

@@ -51,7 +51,7 @@ bool hasDisplay()
 
 /**
  * On a terminal, what the program has to say must not drown in the editor's diagnostics, nor in
- * the toolkit's remark on which folder it takes for want of XDG_RUNTIME_DIR.
+ * Qt's remark on which folder it takes for want of XDG_RUNTIME_DIR.
  */
 void keepDiagnosticsToThoseWhoAsk()
 {

@@ -14,7 +14,7 @@ namespace
 constexpr double smallest = 0.1;
 constexpr double largest = 8.0;
 constexpr double step = 1.25;
-/** One notch of an ordinary wheel, in the toolkit's eighths of a degree. */
+/** One notch of an ordinary wheel, in Qt's eighths of a degree. */
 constexpr double notch = 120.0;
 } // namespace
 

@@ -20,7 +20,7 @@ QRectF anchorSquare(QPointF anchor)
 SelectionFrame::SelectionFrame(QGraphicsItem *parent)
     : QGraphicsItem(parent)
 {
-    // The scene hands presses on the frame to the parent item itself. Where it lets the toolkit
+    // The scene hands presses on the frame to the parent item itself. Where it lets Qt
     // deliver one, to a text that is being edited, the frame must not stand in the way.
     setAcceptedMouseButtons(Qt::NoButton);
 }

@@ -50,7 +50,7 @@ public:
 protected:
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
-    /** The name is meant: releases keep the toolkit's own handling. */
+    /** The name is intentional: releases keep Qt's own handling. */
     void mouseRelaseEvent(QGraphicsSceneMouseEvent *event);
 
 private:

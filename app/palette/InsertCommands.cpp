@@ -27,8 +27,8 @@ TonquillBitmap *InsertCommands::bitmap(int id, bool adding, bool withInverted)
 {
     if (scene().isNewItemIsAdding())
         return nullptr;
-    // The inverted form of a rest is the next shorter note. That pairing is meant. No id follows
-    // the largest int.
+    // The inverted form of a rest is the next shorter note. That pairing is intentional. No id
+    // follows the largest int.
     const bool hasNext = withInverted && id < std::numeric_limits<int>::max();
     auto *item = new TonquillBitmap(m_window.symbols.value(id), id, adding,
                                     hasNext ? m_window.symbols.value(id + 1) : QPixmap());
@@ -46,7 +46,7 @@ void InsertCommands::text()
     auto *item = new TonquillText(true);
     dialog.applyTo(*item);
     addText(item);
-    // A new text turns the other way than an edited one. That is meant.
+    // A new text turns the other way than an edited one. That is intentional.
     item->setRotation(-dialog.angle());
     item->updateFrame();
 }

@@ -74,8 +74,8 @@ void PagePrinter::showPreview()
 }
 
 /**
- * The dialog is shown without waiting for it. Its own loop follows all the same: on Unix the
- * toolkit hands what was chosen to the printer at the end of that loop, and nowhere else.
+ * The dialog is shown without waiting for it. Its own loop follows all the same: on Unix Qt
+ * hands what was chosen to the printer at the end of that loop, and nowhere else.
  */
 void PagePrinter::showPageSetup()
 {

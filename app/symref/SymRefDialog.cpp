@@ -36,7 +36,7 @@ void SymRefDialog::on_pb_ok_clicked()
         return;
     const QString path = SymRefFiles::pathOf(ui->lineEdit->text());
     // Only a folder of that name asks; an existing file is overwritten. The "%s" is shown as it
-    // stands. Both are meant.
+    // stands. Both are intentional.
     if (QDir(path).exists() &&
         QMessageBox::question(this, QStringLiteral("Overwrite?"),
                               QStringLiteral("The destination file already exists:\n\n\t%s\n\n"

@@ -16,7 +16,8 @@ void TonquillMainWin::OnMenuActionSymRefSymRef()
     m_symRefs->open(sender());
 }
 
-// These files are spelt "Symref_", unlike those that the menu lists. Both spellings are meant.
+// These files are spelt "Symref_", unlike those that the menu lists. Both spellings are
+// intentional.
 
 void TonquillMainWin::OnMenuActionSymRefCymbals()
 {

@@ -14,8 +14,8 @@ private Q_SLOTS:
     void speaksTheUsersLanguage_data();
     void speaksTheUsersLanguage();
     void knowsAllNamesOfThePalette();
-    void hasTheToolkitSpeakTheSameLanguage_data();
-    void hasTheToolkitSpeakTheSameLanguage();
+    void hasQtSpeakTheSameLanguage_data();
+    void hasQtSpeakTheSameLanguage();
 
 private:
     /** What a text of this context is after a start in this language. */
@@ -83,17 +83,17 @@ void TranslationsTest::knowsAllNamesOfThePalette()
     QCOMPARE(known, 8 + 4 + 20 + 2 + 3 + 2);
 }
 
-void TranslationsTest::hasTheToolkitSpeakTheSameLanguage_data()
+void TranslationsTest::hasQtSpeakTheSameLanguage_data()
 {
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QString>("expected");
     QTest::newRow("German") << "de_DE"
                             << "Abbrechen";
-    QTest::newRow("a language that only the toolkit has") << "fi_FI"
-                                                          << "Cancel";
+    QTest::newRow("a language that only Qt has") << "fi_FI"
+                                                 << "Cancel";
 }
 
-void TranslationsTest::hasTheToolkitSpeakTheSameLanguage()
+void TranslationsTest::hasQtSpeakTheSameLanguage()
 {
     QFETCH(QString, locale);
     QFETCH(QString, expected);

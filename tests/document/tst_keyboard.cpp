@@ -42,7 +42,7 @@ private Q_SLOTS:
     void quickTextBlockFollowsThePointerUntilAPress();
     void f5ForgetsTheQuickTextBlock();
     void nudgesPasteAndTypingTellTheHostNothing();
-    void otherKeysAreLeftToTheToolkit();
+    void otherKeysAreLeftToQt();
 };
 
 void KeyboardTest::ctrlShowsRestsWhileItIsHeld_data()
@@ -386,7 +386,7 @@ void KeyboardTest::nudgesPasteAndTypingTellTheHostNothing()
     QTRY_COMPARE(m_host->messages.join(QString()), document);
 }
 
-void KeyboardTest::otherKeysAreLeftToTheToolkit()
+void KeyboardTest::otherKeysAreLeftToQt()
 {
     QGraphicsItem *item = selectedGlyph();
     for (const int key :

@@ -20,7 +20,7 @@ void verifyRoundTrip(const DocumentSnapshot &document)
         std::abort();
 }
 
-/** True if there is text that the toolkit words anew each time, which looks the same. */
+/** True if there is text that Qt words anew each time, which looks the same. */
 bool hasFormattedText(const DocumentSnapshot &document)
 {
     return std::any_of(document.items.cbegin(), document.items.cend(),

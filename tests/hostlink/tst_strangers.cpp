@@ -21,7 +21,7 @@ void StrangersTest::init()
 {
     if (!StrangersHost::isPossible())
         QSKIP("only the administrator can start a process of another user's");
-    // Beside the one that is expected there is none, but for the toolkit's about the screen.
+    // Beside the one that is expected there is none, but for Qt's about the screen.
     QTest::failOnWarning(QRegularExpression("^(?!This plugin does not support)"));
 }
 

@@ -155,7 +155,7 @@ void SimpleTextDlgTest::spinBoxes()
     QCOMPARE(size->decimals(), 1);
     QCOMPARE(size->minimum(), 1.0);
     QCOMPARE(size->value(), 12.0);
-    // The toolkit's 99.99, rounded to the box's one decimal.
+    // Qt's 99.99, rounded to the box's one decimal.
     QCOMPARE(size->maximum(), 100.0);
     const auto *angle = dialog.findChild<QDoubleSpinBox *>("sb_angle");
     QCOMPARE(angle->decimals(), 0);

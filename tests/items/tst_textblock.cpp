@@ -52,8 +52,8 @@ private Q_SLOTS:
     void sizeMenuOpensOnlyAtRest_data();
     void sizeMenuOpensOnlyAtRest();
     void otherSendersDoNotSetTheSize();
-    void toolkitsOwnMenuStaysAway_data();
-    void toolkitsOwnMenuStaysAway();
+    void qtsOwnMenuStaysAway_data();
+    void qtsOwnMenuStaysAway();
     void blockMayGoWhileItsMenuIsOpen();
     void fontIsLostWithTheRecord();
     void longTextIsRecordedAndReadBack();
@@ -319,7 +319,7 @@ void TextBlockTest::otherSendersDoNotSetTheSize()
     QCOMPARE(block->font().pointSize(), size);
 }
 
-void TextBlockTest::toolkitsOwnMenuStaysAway_data()
+void TextBlockTest::qtsOwnMenuStaysAway_data()
 {
     QTest::addColumn<bool>("edited");
     QTest::newRow("at rest") << false;
@@ -327,7 +327,7 @@ void TextBlockTest::toolkitsOwnMenuStaysAway_data()
 }
 
 /** The menu of the size opens when the right button is let go, and there is no other. */
-void TextBlockTest::toolkitsOwnMenuStaysAway()
+void TextBlockTest::qtsOwnMenuStaysAway()
 {
     QFETCH(const bool, edited);
     m_window.scene->constructItem(

@@ -14,7 +14,7 @@
 
 namespace
 {
-/** The dialogs that the program itself draws; those of the toolkit are closed again. */
+/** The dialogs that the program itself draws; those of Qt are closed again. */
 bool isOurs(const QWidget *dialog)
 {
     return dialog->objectName() == QLatin1String("TonquillSimpleTextDlg") ||

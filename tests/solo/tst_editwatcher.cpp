@@ -253,7 +253,7 @@ void EditWatcherTest::aStepOfManyItemsGoesBackAsWell()
     QCOMPARE(m_window->scene->selectedItems().size(), 201);
 }
 
-/** An item that has the toolkit's default type, which is that of a glyph. */
+/** An item that has Qt's default type, which is that of a glyph. */
 class EmbeddedItem : public QGraphicsItem
 {
 public:

@@ -539,7 +539,7 @@ void SoloWindowTest::boxesShowNamesAsTheyStand()
 void SoloWindowTest::theTitleShowsAnyName()
 {
     QCOMPARE(m_solo->session().saveAs(m_folder->filePath("a[*].tonquill")), QString());
-    // The toolkit takes two marks for the letters of one.
+    // Qt takes two marks for the letters of one.
     QCOMPARE(m_solo->window().windowTitle(), QString("a[*][*].tonquill[*] – Tonquill"));
 }
 

@@ -10,7 +10,7 @@
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
 
-/** What tests ask of items that only the scene and the toolkit ask otherwise. */
+/** What tests ask of items that only the scene and Qt ask otherwise. */
 namespace ItemProbe
 {
 /** The selection frame that a document item holds. */
