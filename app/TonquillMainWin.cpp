@@ -35,11 +35,11 @@ void destroyScenes()
     scenesOfTheProcess().clear();
 }
 
-TonquillScene *makeSceneForTheProcess()
+TonquillScene *makeSceneForTheProcess(DocumentContext &context)
 {
     if (scenesOfTheProcess().isEmpty())
         qAddPostRoutine(destroyScenes);
-    auto *scene = new TonquillScene;
+    auto *scene = new TonquillScene(context);
     scenesOfTheProcess().append(scene);
     return scene;
 }
@@ -79,7 +79,7 @@ TonquillMainWin::TonquillMainWin(HostConnection connection, QWidget *parent)
     qCDebug(lcTonquill) << g_csINIPath;
     connect(&socket, SIGNAL(readyRead()), this, SLOT(onTWData()));
     connect(&socket, SIGNAL(connected()), this, SLOT(onTWConnect()));
-    scene = makeSceneForTheProcess();
+    scene = makeSceneForTheProcess(*this);
     ui->graphicsView->setScene(scene);
     constructBitmapSymbols();
     connect(ui->graphicsView, SIGNAL(scrolled(QPointF)), this, SLOT(onViewScroll(QPointF)));
@@ -101,12 +101,24 @@ TonquillMainWin::~TonquillMainWin()
     // The view's last focus events must not reach a window that is going.
     if (g_pMainWin == this)
         g_pMainWin = nullptr;
+    scene->leaveContext();
     socket.disconnect(this);
     // Nor must the host's last message, which is handled when the connection ends.
     m_hostLink.reset();
     socket.disconnectFromServer();
     socket.close();
     delete ui;
+}
+
+Sheet TonquillMainWin::sheet() const
+{
+    return {m_printer.paperRect(QPrinter::Inch), m_printer.pageLayout().margins(QPageLayout::Inch)};
+}
+
+void TonquillMainWin::setRestMode(bool on)
+{
+    restMode = on;
+    swapTb2();
 }
 
 TonquillView *TonquillMainWin::view() const

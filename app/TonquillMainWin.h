@@ -1,5 +1,7 @@
 #pragma once
 
+#include "DocumentContext.h"
+
 #include <QHash>
 #include <QLocalSocket>
 #include <QMainWindow>
@@ -27,7 +29,7 @@ class Ui_TonquillMainWin;
  * The slots are declared here in the order of the controls that they answer; each is one line
  * that hands its work to the class for it. Closing the window only hides it.
  */
-class TonquillMainWin : public QMainWindow
+class TonquillMainWin : public QMainWindow, public DocumentContext
 {
     Q_OBJECT
 
@@ -182,6 +184,17 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    // What the document asks for; embedding programs have the members above for it.
+    Sheet sheet() const override;
+    int pages() const override { return pageCount; }
+    void setPages(int count) override { pageCount = count; }
+    bool isRestModeOn() const override { return restMode; }
+    void setRestMode(bool on) override;
+    bool isQuickTextOn() const override { return quickText; }
+    void setQuickText(bool on) override { onQuickTextAction(on); }
+    QPixmap symbolPicture(int id) const override { return symbols.value(id); }
+    void editFinished() override { notifyTW(); }
+
     void giveKeyboardToPage();
     int currentPage() const;
     void refreshPageLabel();

@@ -2,14 +2,13 @@
 
 #include "Logging.h"
 #include "PageGeometry.h"
-#include "TonquillMainWin.h"
+#include "TonquillBitmap.h"
 #include "TonquillText.h"
-
-#include <QPrinter>
 
 #include <algorithm>
 #include <bit>
 #include <iterator>
+#include <limits>
 
 namespace
 {
@@ -21,14 +20,31 @@ constexpr qsizetype manyItems = 20000;
 
 /** Below every z value that the document uses, and with room for more items than memory has. */
 constexpr qreal belowAllItems = -1.0e12;
+
+/** Whom a document asks whose program is gone. */
+class NobodyAround : public DocumentContext
+{
+public:
+    Sheet sheet() const override { return Sheet(); }
+    int pages() const override { return m_pages; }
+    void setPages(int count) override { m_pages = count; }
+    bool isRestModeOn() const override { return false; }
+    void setRestMode(bool) override {}
+    bool isQuickTextOn() const override { return false; }
+    void setQuickText(bool) override {}
+    QPixmap symbolPicture(int) const override { return QPixmap(); }
+    void editFinished() override {}
+
+private:
+    int m_pages = 0;
+};
 } // namespace
 
-TonquillScene::TonquillScene(QObject *parent)
+TonquillScene::TonquillScene(DocumentContext &context, QObject *parent)
     : QGraphicsScene(parent)
+    , m_context(&context)
 {
-    const QPrinter &printer = g_pMainWin->sharedPrinter();
-    const QRectF paper = printer.paperRect(QPrinter::Inch);
-    const QMarginsF margins = printer.pageLayout().margins(QPageLayout::Inch);
+    const auto [paper, margins] = m_context->sheet();
     paperRect = PageGeometry::paperRect(paper);
     pageRect = PageGeometry::pageRect(paper, margins);
     pageSpacing = PageGeometry::spacing(paperRect.height());
@@ -36,6 +52,13 @@ TonquillScene::TonquillScene(QObject *parent)
                         << margins.right() << "mb " << margins.bottom();
     qCDebug(lcTonquill) << "Printer rect:" << paperRect << "page rect:" << pageRect;
     addPage();
+}
+
+void TonquillScene::leaveContext()
+{
+    static NobodyAround nobody;
+    nobody.setPages(m_context->pages());
+    m_context = &nobody;
 }
 
 TonquillScene::~TonquillScene()
@@ -55,6 +78,19 @@ void TonquillScene::addNewItem(QGraphicsItem *item)
         m_lastBuilt = item;
     else
         m_lastAdded = ItemReference(item);
+}
+
+TonquillBitmap *TonquillScene::insertSymbol(int id, bool adding, bool withInverted)
+{
+    if (isNewItemIsAdding())
+        return nullptr;
+    // The inverted form of a rest is the next shorter note. That pairing is intentional. No id
+    // follows the largest int.
+    const bool hasNext = withInverted && id < std::numeric_limits<int>::max();
+    auto *item = new TonquillBitmap(m_context->symbolPicture(id), id, adding,
+                                    hasNext ? m_context->symbolPicture(id + 1) : QPixmap());
+    addNewItem(item);
+    return item;
 }
 
 /**

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ClipboardKeys.h"
+#include "DocumentContext.h"
 #include "ItemModel.h"
 #include "ItemReference.h"
 #include "Records.h"
@@ -10,6 +11,7 @@
 #include <QStringList>
 
 class QGraphicsTextItem;
+class TonquillBitmap;
 class TonquillText;
 class TonquillTextBlock;
 
@@ -29,9 +31,13 @@ public:
     /** The offset with which constructItem() puts the item at the mouse cursor. */
     static constexpr int atCursor = -65535;
 
-    /** Reads paper and margins from the main window's printer and adds the first page. */
-    explicit TonquillScene(QObject *parent = nullptr);
+    /** Lays the pages out on the context's paper and adds the first one. */
+    explicit TonquillScene(DocumentContext &context, QObject *parent = nullptr);
     ~TonquillScene() override;
+
+    /** To be called before the context goes, if that goes first; nothing is asked of it any more.
+     */
+    void leaveContext();
 
     // Pages. Numbers begin at 1 and are not range-checked.
 
@@ -90,6 +96,13 @@ public:
 
     /** Adds the item, which the scene then owns, and remembers it as the last added one. */
     void addNewItem(QGraphicsItem *item);
+
+    /**
+     * Makes a glyph and adds it. With `withInverted` its inverted form is the glyph of the next id.
+     * An id without a glyph makes an item without a picture. An item that waits to be placed is
+     * dropped first. Null if no item was made.
+     */
+    TonquillBitmap *insertSymbol(int id, bool adding, bool withInverted);
 
     /**
      * All items, the topmost first, as items() has them, but quickly also after an item moved:
@@ -159,7 +172,6 @@ private:
     void moveQuickTextBlock(QPointF scenePos);
 
     // Keyboard
-    void setRestMode(bool on);
     void adjustRestMode(bool isCtrlHeld);
     void startQuickTextBlock();
     bool isAnyItemEdited() const;
@@ -168,6 +180,7 @@ private:
     void copySelection();
     void addSameItem();
 
+    DocumentContext *m_context; ///< never null
     qsizetype m_addedItems = 0; ///< since the scene was cleared
     qsizetype m_indexFitsUpTo = 0;
     ItemReference m_lastAdded;

@@ -1,5 +1,4 @@
 #include "Logging.h"
-#include "TonquillMainWin.h"
 #include "TonquillScene.h"
 #include "TonquillTextBlock.h"
 
@@ -63,18 +62,18 @@ void TonquillScene::keyPressEvent(QKeyEvent *event)
     qCDebug(lcPointer) << "key press" << event->key() << event->isAutoRepeat();
     m_clipboardKeys.press(*event);
     if (event->key() == Qt::Key_Control) {
-        setRestMode(true);
+        m_context->setRestMode(true);
         return;
     }
-    if (g_pMainWin->quickText && startsQuickText(event->key())) {
+    if (m_context->isQuickTextOn() && startsQuickText(event->key())) {
         if (!isAnyItemEdited())
             startQuickTextBlock();
         QGraphicsScene::keyPressEvent(event);
         return;
     }
     if (event->key() == Qt::Key_F5) {
-        g_pMainWin->onQuickTextAction(!g_pMainWin->quickText);
-        if (!g_pMainWin->quickText)
+        m_context->setQuickText(!m_context->isQuickTextOn());
+        if (!m_context->isQuickTextOn())
             m_quickTextBlock.clear();
         return;
     }
@@ -91,17 +90,11 @@ void TonquillScene::keyPressEvent(QKeyEvent *event)
     QGraphicsScene::keyPressEvent(event);
 }
 
-void TonquillScene::setRestMode(bool on)
-{
-    g_pMainWin->restMode = on;
-    g_pMainWin->swapTb2();
-}
-
-/** For changes of Ctrl that no key event told. The view's last focus events find no window. */
+/** For changes of Ctrl that no key event told. */
 void TonquillScene::adjustRestMode(bool isCtrlHeld)
 {
-    if (g_pMainWin && g_pMainWin->restMode != isCtrlHeld)
-        setRestMode(isCtrlHeld);
+    if (m_context->isRestModeOn() != isCtrlHeld)
+        m_context->setRestMode(isCtrlHeld);
 }
 
 /** Lays the block that takes what is typed, at the pointer. It begins with one blank. */
@@ -137,7 +130,7 @@ void TonquillScene::keyReleaseEvent(QKeyEvent *event)
         else
             onPaste();
     } else if (key == Qt::Key_Control) {
-        setRestMode(false);
+        m_context->setRestMode(false);
     } else if (key == Qt::Key_Space) {
         if (isAnyItemEdited())
             QGraphicsScene::keyReleaseEvent(event);
@@ -185,7 +178,7 @@ void TonquillScene::deleteSelection()
     if (selected.isEmpty())
         return;
     destroyItems(selected);
-    g_pMainWin->notifyTW();
+    m_context->editFinished();
 }
 
 /** The copy buffer is never emptied: a paste makes everything that was copied so far. */

@@ -1,7 +1,6 @@
 #include "Logging.h"
 #include "PaperPainting.h"
 #include "TonquillBitmap.h"
-#include "TonquillMainWin.h"
 #include "TonquillScene.h"
 #include "TonquillVectorTriplet.h"
 
@@ -13,17 +12,17 @@
 
 void TonquillScene::resizeToPages()
 {
-    setSceneRect(0, 0, paperRect.width(), g_pMainWin->pageCount * pagePitch());
+    setSceneRect(0, 0, paperRect.width(), m_context->pages() * pagePitch());
 }
 
 void TonquillScene::addPage()
 {
-    setPageNum(g_pMainWin->pageCount + 1);
+    setPageNum(m_context->pages() + 1);
 }
 
 void TonquillScene::setPageNum(int n)
 {
-    g_pMainWin->pageCount = n;
+    m_context->setPages(n);
     resizeToPages();
 }
 
@@ -54,13 +53,13 @@ void TonquillScene::addPageAtBegining()
 
 void TonquillScene::addPageAtEnd()
 {
-    insertPageAt(g_pMainWin->pageCount * pagePitch());
+    insertPageAt(m_context->pages() * pagePitch());
 }
 
 /** Items are found by their shape, so one that only reaches below `top` moves down as well. */
 void TonquillScene::insertPageAt(double top)
 {
-    ++g_pMainWin->pageCount;
+    m_context->setPages(m_context->pages() + 1);
     const QRectF old = sceneRect();
     const QList<QGraphicsItem *> moving =
         topLevelItemsIn(QRectF(0, truncatedToInt(top), paperRect.width(), old.height()));
@@ -93,9 +92,9 @@ void TonquillScene::deletePage(int page, double way)
     // The undermost first: taken off in that order, each is found at once, for it is the oldest.
     std::reverse(deleted.begin(), deleted.end());
     destroyItems(deleted);
-    if (g_pMainWin->pageCount < 2)
+    if (m_context->pages() < 2)
         return;
-    --g_pMainWin->pageCount;
+    m_context->setPages(m_context->pages() - 1);
     const QRectF old = sceneRect();
     const QList<QGraphicsItem *> moving = topLevelItemsIn(
         QRectF(0, truncatedToInt(page * pagePitch()), paperRect.width(), old.height()));
@@ -114,9 +113,9 @@ void TonquillScene::clearScene()
     clear();
     m_addedItems = 0;
     m_indexFitsUpTo = 0;
-    if (g_pMainWin->pageCount < 2)
+    if (m_context->pages() < 2)
         return;
-    g_pMainWin->pageCount = 1;
+    m_context->setPages(1);
     // One gap less than the page, on purpose; the next page operation sets the normal height.
     setSceneRect(0, 0, sceneRect().width(), paperRect.height() - pageSpacing);
 }
@@ -166,7 +165,7 @@ void TonquillScene::drawBackground(QPainter *painter, const QRectF &rect)
     // Printing asks page by page: only those that the rectangle can show, else the cost of all
     // pages would grow with the square of their number. No rectangle shows all.
     int first = 0;
-    int last = g_pMainWin->pageCount - 1;
+    int last = m_context->pages() - 1;
     if (!rect.isEmpty()) {
         first = qMax(first, truncatedToInt(rect.top() / pagePitch()) - 1);
         last = qMin(last, truncatedToInt(rect.bottom() / pagePitch()) + 1);

@@ -1,5 +1,4 @@
 #include "SelectionFrame.h"
-#include "TonquillMainWin.h"
 #include "TonquillScene.h"
 #include "TonquillSimpleTextDlg.h"
 #include "TonquillText.h"
@@ -131,7 +130,7 @@ void TonquillScene::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 /** In quick text mode the block that is being typed follows the pointer. */
 void TonquillScene::moveQuickTextBlock(QPointF scenePos)
 {
-    if (m_quickTextBlock && g_pMainWin->quickText)
+    if (m_quickTextBlock && m_context->isQuickTextOn())
         m_quickTextBlock->setPos(scenePos);
 }
 
@@ -174,14 +173,14 @@ void TonquillScene::releaseLeft(QGraphicsSceneMouseEvent *event, QGraphicsItem *
     SelectionFrame *frame = asFrame(itemUnder(event->scenePos()));
     if (!frame || !isOnAnchor(*frame, event->scenePos())) {
         forwardToSelection(event, served);
-        g_pMainWin->notifyTW();
+        m_context->editFinished();
         return;
     }
     const ItemReference owner(frame->parentItem());
     if (frame->parentItem() != served)
         forward(frame->parentItem(), event);
     if (owner.object() && owner.object()->property("itemStatus").toInt() == 0)
-        g_pMainWin->notifyTW();
+        m_context->editFinished();
 }
 
 void TonquillScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
@@ -247,5 +246,5 @@ void TonquillScene::onEditTextItem()
     dialog.applyTo(*m_contextText);
     m_contextText->setRotation(dialog.angle());
     m_contextText->moveAnchorToCorner();
-    g_pMainWin->notifyTW();
+    m_context->editFinished();
 }

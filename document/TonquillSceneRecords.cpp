@@ -1,7 +1,6 @@
 #include "ItemFactory.h"
 #include "Logging.h"
 #include "TonquillBitmap.h"
-#include "TonquillMainWin.h"
 #include "TonquillScene.h"
 #include "TonquillText.h"
 #include "TonquillTextBlock.h"
@@ -18,7 +17,7 @@ constexpr qsizetype typicalRecordSize = 32;
 
 QString TonquillScene::notifyTW()
 {
-    QString document = Records::pageCountLine(g_pMainWin->pageCount);
+    QString document = Records::pageCountLine(m_context->pages());
     const QList<QGraphicsItem *> all = itemsFromTop();
     document.reserve(document.size() + all.size() * typicalRecordSize / 2);
     for (QGraphicsItem *item : all) {
@@ -112,7 +111,7 @@ void TonquillScene::build(const Records::Record &parsed, bool adding, int offset
 
 void TonquillScene::buildBitmap(const Records::Bitmap &record, bool adding, int offset)
 {
-    TonquillBitmap *item = g_pMainWin->InsertBitmapSymbol(record.symbolId, adding, true);
+    TonquillBitmap *item = insertSymbol(record.symbolId, adding, true);
     if (!item)
         return;
     item->setInverted(record.inverted);

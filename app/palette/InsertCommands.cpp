@@ -25,15 +25,7 @@ TonquillScene &InsertCommands::scene() const
 
 TonquillBitmap *InsertCommands::bitmap(int id, bool adding, bool withInverted)
 {
-    if (scene().isNewItemIsAdding())
-        return nullptr;
-    // The inverted form of a rest is the next shorter note. That pairing is intentional. No id
-    // follows the largest int.
-    const bool hasNext = withInverted && id < std::numeric_limits<int>::max();
-    auto *item = new TonquillBitmap(m_window.symbols.value(id), id, adding,
-                                    hasNext ? m_window.symbols.value(id + 1) : QPixmap());
-    scene().addNewItem(item);
-    return item;
+    return scene().insertSymbol(id, adding, withInverted);
 }
 
 void InsertCommands::text()

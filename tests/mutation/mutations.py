@@ -46,14 +46,14 @@ MUTATIONS = [
     ),
     Mutation(
         "the units across and down are swapped",
-        "document/PageGeometry.cpp",
+        "records/PageGeometry.cpp",
         "unitsPerInchAcross = 88.0;\nconstexpr double unitsPerInchDown = 90.0;",
         "unitsPerInchAcross = 90.0;\nconstexpr double unitsPerInchDown = 88.0;",
         "tst_pagegeometry",
     ),
     Mutation(
         "coordinates are rounded",
-        "items/Truncation.h",
+        "basics/Truncation.h",
         "return static_cast<int>(value);",
         "return static_cast<int>(value < 0 ? value - 0.5 : value + 0.5);",
         "tst_(bitmap|truncation)",
@@ -81,7 +81,7 @@ MUTATIONS = [
     ),
     Mutation(
         "of two anchors at one place the higher one is taken",
-        "vector/SelectionFrame.cpp",
+        "items/SelectionFrame.cpp",
         "for (qsizetype i = 0; i < m_anchors.size(); ++i)",
         "for (qsizetype i = m_anchors.size() - 1; i >= 0; --i)",
         "tst_selectionframe",
@@ -165,14 +165,14 @@ MUTATIONS = [
     ),
     Mutation(
         "the host's records are separated by line ends",
-        "document/Records.cpp",
+        "records/Records.cpp",
         "positionOf(u'|', records)",
         "positionOf(u'\\n', records)",
         "tst_messages",
     ),
     Mutation(
         "an undone step leaves its items on top of the others",
-        "solo/DocumentPatch.cpp",
+        "solo/history/DocumentPatch.cpp",
         "above->zValue() == item->zValue()",
         "above->zValue() != item->zValue()",
         "tst_editwatcher",

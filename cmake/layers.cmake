@@ -1,0 +1,27 @@
+# The layers of the program: one library a folder, which sees the folders below it and no other.
+
+# tonquill_layer(NAME USES LIBRARY... SOURCES FILE...): the static library of the present folder.
+# Headers are included by their bare names. What a layer links, those above it may include too.
+function(tonquill_layer name)
+    cmake_parse_arguments(PARSE_ARGV 1 layer "" "" "USES;SOURCES")
+    add_library(${name} STATIC ${layer_SOURCES})
+    set_target_properties(${name} PROPERTIES
+        AUTOMOC ON AUTOUIC ON AUTORCC ON
+        AUTOUIC_SEARCH_PATHS "${CMAKE_CURRENT_SOURCE_DIR}")
+    set(folders ${CMAKE_CURRENT_SOURCE_DIR})
+    foreach(source IN LISTS layer_SOURCES)
+        cmake_path(GET source PARENT_PATH folder)
+        if(folder AND NOT folder MATCHES "^\\.\\.")
+            list(APPEND folders ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
+        endif()
+    endforeach()
+    list(REMOVE_DUPLICATES folders)
+    target_include_directories(${name} PUBLIC
+        ${folders}
+        # The generated Ui_ headers, which the class headers forward-declare only.
+        ${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/include)
+    target_compile_features(${name} PUBLIC cxx_std_20)
+    target_link_libraries(${name}
+        PUBLIC ${layer_USES}
+        PRIVATE $<BUILD_INTERFACE:tonquill-options>)
+endfunction()

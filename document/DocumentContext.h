@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QMarginsF>
+#include <QPixmap>
+#include <QRectF>
+
+/** A sheet of paper; all lengths are inches. */
+struct Sheet
+{
+    QRectF paper;      ///< the whole sheet
+    QMarginsF margins; ///< between its edges and its printable area
+};
+
+/** What the document asks of the program round it: the main window, or a test. */
+class DocumentContext
+{
+public:
+    virtual ~DocumentContext() = default;
+
+    /** The paper of a new document. */
+    virtual Sheet sheet() const = 0;
+
+    /** The number of pages, which is kept here for everybody and changed by the document only. */
+    virtual int pages() const = 0;
+    virtual void setPages(int count) = 0;
+
+    /** Rest mode: Ctrl is held, and the note buttons insert rests. */
+    virtual bool isRestModeOn() const = 0;
+    virtual void setRestMode(bool on) = 0;
+
+    /** Quick text mode: letters that are typed on the page open a text block. */
+    virtual bool isQuickTextOn() const = 0;
+    virtual void setQuickText(bool on) = 0;
+
+    /** The picture of a symbol; null if there is none of this id. */
+    virtual QPixmap symbolPicture(int id) const = 0;
+
+    /** An edit is complete. */
+    virtual void editFinished() = 0;
+};
