@@ -66,7 +66,6 @@ TonquillMainWin::TonquillMainWin(HostConnection connection, QWidget *parent)
     , m_hostLink(std::make_unique<HostLink>(*this))
     , m_pagePrinter(std::make_unique<PagePrinter>(*this, *m_hostLink))
 {
-    Q_INIT_RESOURCE(images);
     // A dialog closed while this window is hidden is no reason to end the program.
     QGuiApplication::setQuitOnLastWindowClosed(false);
 

@@ -1,5 +1,6 @@
 #include "TonquillScene.h"
 
+#include "DocumentItem.h"
 #include "Logging.h"
 #include "PageGeometry.h"
 #include "TonquillBitmap.h"
@@ -42,6 +43,7 @@ private:
 
 TonquillScene::TonquillScene(DocumentContext &context, QObject *parent)
     : QGraphicsScene(parent)
+    , ItemRegistry(static_cast<const QGraphicsScene &>(*this))
     , m_context(&context)
 {
     const auto [paper, margins] = m_context->sheet();
@@ -118,10 +120,18 @@ QList<QGraphicsItem *> TonquillScene::itemsFromTop() const
     return items();
 }
 
-void TonquillScene::itemAwaitsPlacing(QGraphicsItem *item, QObject *object)
+void TonquillScene::itemAwaitsPlacing(QGraphicsItem *item)
 {
-    Q_UNUSED(object);
     m_waiting.append(ItemReference(item));
+}
+
+void TonquillScene::setItemObserver(ItemObserver *observer)
+{
+    ItemRegistry::setItemObserver(observer);
+    for (QGraphicsItem *item : items()) {
+        if (DocumentItem *one = DocumentItem::of(item))
+            one->setObserved(observer != nullptr);
+    }
 }
 
 bool TonquillScene::isNewItemIsAdding()

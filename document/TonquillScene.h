@@ -2,8 +2,8 @@
 
 #include "ClipboardKeys.h"
 #include "DocumentContext.h"
-#include "ItemModel.h"
 #include "ItemReference.h"
+#include "ItemRegistry.h"
 #include "Records.h"
 
 #include <QGraphicsScene>
@@ -116,7 +116,10 @@ public:
      */
     bool isNewItemIsAdding();
 
-    void itemAwaitsPlacing(QGraphicsItem *item, QObject *object) override;
+    void itemAwaitsPlacing(QGraphicsItem *item) override;
+
+    /** Has somebody told of every change of the items; null for nobody. Not owned. */
+    void setItemObserver(ItemObserver *observer) override;
 
     /** Builds a copy of every record that was copied so far, moved by 30. */
     void onPaste();

@@ -11,6 +11,12 @@
 
 #include <cmath>
 
+/** The drawings are in this library, which programs link statically. Outside of any namespace. */
+static void haveDrawings()
+{
+    Q_INIT_RESOURCE(images);
+}
+
 namespace
 {
 /** One glyph's finer drawing, made when it is first asked for. */
@@ -171,6 +177,7 @@ void paintOutline(QPainter &painter, const QPixmap &pixmap, Glyph &glyph, QPoint
 
 QImage GlyphDrawings::loadInk(const QString &path, const QColor &ink)
 {
+    haveDrawings();
     const QImage picture = QImage(path).convertToFormat(QImage::Format_Grayscale8);
     QImage result(picture.size(), QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < picture.height(); ++y) {

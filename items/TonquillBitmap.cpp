@@ -11,17 +11,14 @@
 
 TonquillBitmap::TonquillBitmap(const QPixmap &pixmap, int symbolId, bool adding,
                                QPixmap invertedPixmap, QGraphicsItem *parent)
-    : QGraphicsPixmapItem(pixmap, parent)
-    , m_itemStatus(adding ? ItemStatus::Adding : ItemStatus::Placed)
-    , m_frame(this)
+    : DocumentItemOf(adding, pixmap, parent)
     , m_otherPixmap(std::move(invertedPixmap))
 {
-    setFlags(ItemIsMovable | ItemIsSelectable);
     setOffset(-(pixmap.width() / 2), -(pixmap.height() / 2));
     setShapeMode(BoundingRectShape);
     setSelected(adding);
     setZValue(symbolZValue);
-    m_frame.addAnchor(boundingRect().topLeft());
+    frame().addAnchor(boundingRect().topLeft());
     setData(ItemData::symbolId, symbolId);
     setData(ItemData::keyword, Records::bitmapKeyword());
 }
@@ -31,7 +28,7 @@ void TonquillBitmap::setInverted(bool inverted)
     if (inverted == m_inverted)
         return;
     m_inverted = inverted;
-    m_frame.parentBoundsAboutToChange();
+    frame().parentBoundsAboutToChange();
     const QPixmap shown = pixmap();
     setPixmap(std::exchange(m_otherPixmap, shown));
 }
@@ -65,43 +62,29 @@ void TonquillBitmap::paintWith(QPainter *painter, const QStyleOptionGraphicsItem
 bool TonquillBitmap::canInvertNow() const
 {
     const QPixmap invertedPixmap = m_inverted ? pixmap() : m_otherPixmap;
-    return !invertedPixmap.isNull() && m_itemStatus == ItemStatus::Adding;
+    return !invertedPixmap.isNull() && status() == ItemStatus::Adding;
+}
+
+const PointerManners &TonquillBitmap::manners() const
+{
+    static const PointerManners manners{.dragsWithAnyButton = true, .notesEveryPress = true};
+    return manners;
 }
 
 void TonquillBitmap::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
-    if (ItemModel::onlyLeftButtonHeld(*event)) {
-        m_lastPointer = event->scenePos();
-        if (m_itemStatus == ItemStatus::Placed)
-            m_itemStatus = ItemStatus::Moving;
-    }
+    press(*event);
     if (ItemModel::onlyRightButtonHeld(*event) && canInvertNow())
         setInverted(true);
 }
 
-void TonquillBitmap::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
-{
-    if (m_itemStatus == ItemStatus::Adding)
-        setPos(event->scenePos());
-    else if (m_itemStatus == ItemStatus::Moving)
-        ItemModel::dragBy(this, *event, m_lastPointer);
-}
-
 void TonquillBitmap::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
 {
-    const bool busy = m_itemStatus == ItemStatus::Adding || m_itemStatus == ItemStatus::Moving;
-    if (event->button() == Qt::LeftButton && busy)
-        m_itemStatus = ItemStatus::Placed;
+    release(*event);
     // A glyph that the left button placed meanwhile keeps its inverted form: that is how an
     // inverted glyph is placed.
     const bool rightAlone =
         event->button() == Qt::RightButton && !(event->buttons() & Qt::LeftButton);
     if (rightAlone && canInvertNow())
         setInverted(false);
-}
-
-QVariant TonquillBitmap::itemChange(GraphicsItemChange change, const QVariant &value)
-{
-    ItemModel::announceToScene(change, this, this, m_itemStatus);
-    return QGraphicsPixmapItem::itemChange(change, value);
 }

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "ItemModel.h"
-#include "SelectionFrame.h"
+#include "DocumentItem.h"
 
 #include <QGraphicsPixmapItem>
 #include <QObject>
@@ -12,7 +11,7 @@
  * pedal mark. It shows the normal or the inverted pixmap, centred on its position, and can be
  * moved but not resized.
  */
-class TonquillBitmap : public QObject, public QGraphicsPixmapItem
+class TonquillBitmap : public QObject, public DocumentItemOf<QGraphicsPixmapItem>
 {
     Q_OBJECT
     Q_PROPERTY(int itemStatus READ itemStatus)
@@ -32,7 +31,6 @@ public:
     void setInverted(bool inverted);
     bool isInverted() const { return m_inverted; }
 
-    int itemStatus() const { return static_cast<int>(m_itemStatus); }
     int type() const override { return Type; }
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
@@ -45,18 +43,14 @@ Q_SIGNALS:
     void itemChanged(QString record);
 
 protected:
+    const PointerManners &manners() const override;
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
-    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
-    QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
 
 private:
     bool canInvertNow() const;
     void paintWith(QPainter *painter, const QStyleOptionGraphicsItem &option, QWidget *widget);
 
-    ItemStatus m_itemStatus;
     bool m_inverted = false;
-    QPointF m_lastPointer;
-    SelectionFrame m_frame;
     QPixmap m_otherPixmap; ///< the one that is not shown: the inverted one or the normal one
 };

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "ItemModel.h"
-#include "SelectionFrame.h"
+#include "DocumentItem.h"
 
 #include <QGraphicsTextItem>
 
@@ -12,7 +11,7 @@ class TonquillSimpleTextDlg;
  * It is never edited in place; a right press asks for its context menu, and its content and look
  * are changed in the TonquillSimpleTextDlg.
  */
-class TonquillText : public QGraphicsTextItem
+class TonquillText : public DocumentItemOf<QGraphicsTextItem>
 {
     Q_OBJECT
     Q_PROPERTY(int itemStatus READ itemStatus)
@@ -29,7 +28,6 @@ public:
     /** Moves the anchor to the bottom-left corner, after text or font were changed. */
     void moveAnchorToCorner();
 
-    int itemStatus() const { return static_cast<int>(m_itemStatus); }
     int type() const override { return Type; }
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
@@ -42,13 +40,6 @@ Q_SIGNALS:
     void showTextItemMenu(TonquillText *item);
 
 protected:
+    const PointerManners &manners() const override;
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
-    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
-    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
-    QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
-
-private:
-    ItemStatus m_itemStatus;
-    QPointF m_lastPointer;
-    SelectionFrame m_frame;
 };

@@ -35,13 +35,10 @@ QString placeholder()
 
 TonquillTextBlock::TonquillTextBlock(bool adding, const QString &text, const QRectF &rect,
                                      QGraphicsItem *parent)
-    : QGraphicsTextItem(parent)
-    , m_itemStatus(adding ? ItemStatus::Adding : ItemStatus::Placed)
-    , m_frame(this)
+    : DocumentItemOf(adding, parent)
 {
-    setFlags(ItemIsMovable | ItemIsSelectable);
     setZValue(symbolZValue);
-    m_frame.setZValue(0.0);
+    frame().setZValue(0.0);
     setSelected(adding);
     setDocument(new SelfContainedText(this));
     if (defaultTextColor() != Qt::black)
@@ -98,10 +95,10 @@ QRectF TonquillTextBlock::boundingRect() const
 void TonquillTextBlock::setCorners(QPointF topLeft, QPointF bottomRight)
 {
     prepareGeometryChange();
-    m_frame.parentBoundsAboutToChange();
+    frame().parentBoundsAboutToChange();
     m_topLeft = topLeft;
     m_bottomRight = bottomRight;
-    m_frame.setAnchors({topLeft, bottomRight});
+    frame().setAnchors({topLeft, bottomRight});
 }
 
 void TonquillTextBlock::updateFrame()
@@ -141,49 +138,47 @@ void TonquillTextBlock::paint(QPainter *painter, const QStyleOptionGraphicsItem 
         QGraphicsTextItem::paint(painter, option, widget);
 }
 
+const PointerManners &TonquillTextBlock::manners() const
+{
+    static const PointerManners manners{.grab = PointerManners::Grab::UntilOthersTakeIt,
+                                        .notesEveryPress = true};
+    return manners;
+}
+
 void TonquillTextBlock::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
     if (isInEditor())
         QGraphicsTextItem::mousePressEvent(event);
-    else if (ItemModel::onlyLeftButtonHeld(*event))
-        startDrag(*event);
+    else
+        press(*event);
 }
 
-void TonquillTextBlock::startDrag(const QGraphicsSceneMouseEvent &event)
+/** The top-left anchor moves the block like any other place of it. */
+int TonquillTextBlock::resizingAnchorAt(QPointF point) const
 {
-    m_lastPointer = event.scenePos();
-    if (m_itemStatus != ItemStatus::Placed)
-        return;
-    ItemModel::takeMouseGrab(this);
-    // The top-left anchor moves the block like any other place of it.
     QPointF anchor;
-    const int hit = m_frame.getAnchor(mapFromScene(event.scenePos()), anchor);
-    m_itemStatus = hit == bottomRightAnchor ? ItemStatus::Resizing : ItemStatus::Moving;
-    if (hit == bottomRightAnchor)
-        m_resizeAnchor = bottomRightAnchor;
+    return frame().getAnchor(point, anchor) == bottomRightAnchor ? bottomRightAnchor : -1;
 }
 
 void TonquillTextBlock::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
-    if (isInEditor()) {
+    if (isInEditor())
         QGraphicsTextItem::mouseMoveEvent(event);
-        return;
-    }
-    const bool leftHeld = ItemModel::onlyLeftButtonHeld(*event);
-    if (m_itemStatus == ItemStatus::Adding)
-        setPos(event->scenePos());
-    else if (m_itemStatus == ItemStatus::Moving && leftHeld)
-        ItemModel::dragBy(this, *event, m_lastPointer);
-    else if (m_itemStatus == ItemStatus::Resizing && leftHeld)
-        resizeTo(mapFromScene(event->scenePos()));
+    else
+        move(*event);
 }
 
-void TonquillTextBlock::resizeTo(QPointF corner)
+void TonquillTextBlock::dragAnchorTo(int anchor, QPointF point)
 {
     prepareGeometryChange();
-    m_frame.parentBoundsAboutToChange();
-    (m_resizeAnchor == 0 ? m_topLeft : m_bottomRight) = corner;
-    m_frame.setAnchor(m_resizeAnchor, corner);
+    frame().parentBoundsAboutToChange();
+    m_bottomRight = point;
+    frame().setAnchor(anchor, point);
+    letOthersPaintAndFitText();
+}
+
+void TonquillTextBlock::resized()
+{
     letOthersPaintAndFitText();
 }
 
@@ -212,19 +207,9 @@ void TonquillTextBlock::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
     const QPointer<TonquillTextBlock> self(this);
     if (isInEditor())
         QGraphicsTextItem::mouseReleaseEvent(event);
-    if (event->button() == Qt::LeftButton)
-        finishDrag();
-    if (self && event->button() == Qt::RightButton && m_itemStatus == ItemStatus::Placed)
+    release(*event);
+    if (self && event->button() == Qt::RightButton && status() == ItemStatus::Placed)
         openSizeMenu();
-}
-
-/** The grab taken at the press is kept; the next item that is pressed takes it. */
-void TonquillTextBlock::finishDrag()
-{
-    const bool resized = m_itemStatus == ItemStatus::Resizing;
-    m_itemStatus = ItemStatus::Placed;
-    if (resized)
-        letOthersPaintAndFitText();
 }
 
 void TonquillTextBlock::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
@@ -274,10 +259,4 @@ void TonquillTextBlock::focusOutEvent(QFocusEvent *event)
     cursor.clearSelection();
     setTextCursor(cursor);
     QGraphicsTextItem::focusOutEvent(event);
-}
-
-QVariant TonquillTextBlock::itemChange(GraphicsItemChange change, const QVariant &value)
-{
-    ItemModel::announceToScene(change, this, this, m_itemStatus);
-    return QGraphicsTextItem::itemChange(change, value);
 }

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "ItemModel.h"
-#include "SelectionFrame.h"
+#include "DocumentItem.h"
 
 #include <QGraphicsTextItem>
 
@@ -14,7 +13,7 @@ class QMenu;
  * mouse, and a double click hands keys and mouse to the text editor until the block loses focus.
  * A right click opens a menu of point sizes.
  */
-class TonquillTextBlock : public QGraphicsTextItem
+class TonquillTextBlock : public DocumentItemOf<QGraphicsTextItem>
 {
     Q_OBJECT
     Q_PROPERTY(int itemStatus READ itemStatus)
@@ -33,7 +32,6 @@ public:
     /** True while any way of selecting or typing text is on. */
     static bool isEdited(const QGraphicsTextItem &item);
 
-    int itemStatus() const { return static_cast<int>(m_itemStatus); }
     int type() const override { return Type; }
 
     /**
@@ -60,6 +58,10 @@ public Q_SLOTS:
     void updateFrame();
 
 protected:
+    const PointerManners &manners() const override;
+    int resizingAnchorAt(QPointF point) const override;
+    void dragAnchorTo(int anchor, QPointF point) override;
+    void resized() override;
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
@@ -68,24 +70,16 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
-    QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
 
 private:
     bool isInEditor() const;
     void openSizeMenu();
-    void startDrag(const QGraphicsSceneMouseEvent &event);
-    void resizeTo(QPointF corner);
-    void finishDrag();
     void letOthersPaintAndFitText();
     void fitTo(QSizeF textSize);
     void fitTextToWidth();
     void followTyping();
 
-    ItemStatus m_itemStatus;
-    QPointF m_lastPointer;
-    SelectionFrame m_frame;
     QPointF m_topLeft;
     QPointF m_bottomRight;
-    int m_resizeAnchor = 1;
     std::unique_ptr<QMenu> m_sizeMenu; ///< made when it is first opened: most never are
 };

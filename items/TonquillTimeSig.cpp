@@ -20,17 +20,14 @@ QFont numeralFont()
 } // namespace
 
 TonquillTimeSig::TonquillTimeSig(int numerator, int denominator, bool adding, QGraphicsItem *parent)
-    : QGraphicsObject(parent)
+    : DocumentItemOf(adding, parent)
     , m_font(ItemModel::largeBoldFont())
-    , m_itemStatus(adding ? ItemStatus::Adding : ItemStatus::Placed)
-    , m_frame(this)
     , m_numerator(numerator)
     , m_denominator(denominator)
 {
-    setFlags(ItemIsMovable | ItemIsSelectable);
     setSelected(adding);
     setZValue(symbolZValue);
-    m_frame.setAnchors({boundingRect().topLeft()});
+    frame().setAnchors({boundingRect().topLeft()});
     setData(ItemData::keyword, Records::timesigKeyword());
 }
 
@@ -63,31 +60,8 @@ void TonquillTimeSig::paint(QPainter *painter, const QStyleOptionGraphicsItem *,
     painter->drawRect(textRect);
 }
 
-void TonquillTimeSig::mousePressEvent(QGraphicsSceneMouseEvent *event)
+const PointerManners &TonquillTimeSig::manners() const
 {
-    if (!ItemModel::onlyLeftButtonHeld(*event) || m_itemStatus != ItemStatus::Placed)
-        return;
-    m_lastPointer = event->scenePos();
-    m_itemStatus = ItemStatus::Moving;
-}
-
-void TonquillTimeSig::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
-{
-    if (m_itemStatus == ItemStatus::Adding && event->buttons() == Qt::NoButton)
-        setPos(event->scenePos());
-    else if (m_itemStatus == ItemStatus::Moving && ItemModel::onlyLeftButtonHeld(*event))
-        ItemModel::dragBy(this, *event, m_lastPointer);
-}
-
-void TonquillTimeSig::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
-{
-    const bool busy = m_itemStatus == ItemStatus::Adding || m_itemStatus == ItemStatus::Moving;
-    if (event->button() == Qt::LeftButton && busy)
-        m_itemStatus = ItemStatus::Placed;
-}
-
-QVariant TonquillTimeSig::itemChange(GraphicsItemChange change, const QVariant &value)
-{
-    ItemModel::announceToScene(change, this, this, m_itemStatus);
-    return QGraphicsObject::itemChange(change, value);
+    static const PointerManners manners{.followsWithButtonsHeld = false};
+    return manners;
 }

@@ -1,13 +1,12 @@
 #pragma once
 
-#include "ItemModel.h"
-#include "SelectionFrame.h"
+#include "DocumentItem.h"
 
 #include <QFont>
 #include <QGraphicsObject>
 
 /** A time signature: two numbers, one above the other. It can be moved but not resized. */
-class TonquillTimeSig : public QGraphicsObject
+class TonquillTimeSig : public DocumentItemOf<QGraphicsObject>
 {
     Q_OBJECT
     Q_PROPERTY(int itemStatus READ itemStatus)
@@ -22,7 +21,6 @@ public:
     /** The lower number. */
     int denominator() const { return m_denominator; }
 
-    int itemStatus() const { return static_cast<int>(m_itemStatus); }
     int type() const override { return Type; }
 
     /** 30 by 45 whatever the numbers; wide ones reach out of it. */
@@ -34,16 +32,10 @@ public Q_SLOTS:
     QString getParamStr();
 
 protected:
-    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
-    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
-    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
-    QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
+    const PointerManners &manners() const override;
 
 private:
     QFont m_font; ///< bold, 23 points; painting has a font of its own
-    ItemStatus m_itemStatus;
-    QPointF m_lastPointer;
-    SelectionFrame m_frame;
     int m_numerator;
     int m_denominator;
 };

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "ItemModel.h"
-#include "SelectionFrame.h"
+#include "DocumentItem.h"
 
 #include <QFont>
 #include <QGraphicsObject>
@@ -13,14 +12,12 @@
  * The points are in item coordinates (scene units, y down). A new item follows the pointer by its
  * start point until a click fixes that; then its end point follows until a second click.
  */
-class TonquillVectorItem : public QGraphicsObject
+class TonquillVectorItem : public DocumentItemOf<QGraphicsObject>
 {
     Q_OBJECT
     Q_PROPERTY(int itemStatus READ itemStatus)
 
 public:
-    int itemStatus() const { return static_cast<int>(m_itemStatus); }
-
     QPointF startPoint() const { return m_start; }
     QPointF endPoint() const { return m_end; }
 
@@ -55,21 +52,18 @@ protected:
     /** Called after a point moved, between the notice of new bounds and the repaint. */
     virtual void pointsChanged() {}
 
+    const PointerManners &manners() const override;
+    int resizingAnchorAt(QPointF point) const override;
+    void dragAnchorTo(int anchor, QPointF point) override;
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
-    QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
 
 private:
     QRectF spannedRect() const;
-    void dragActiveAnchorTo(QPointF point);
 
     Kind m_kind;
     QFont m_font; ///< bold, 23 points; the figures are drawn in the painter's own font
-    ItemStatus m_itemStatus;
     QPointF m_start;
     QPointF m_end;
-    QPointF m_lastPointer;
-    SelectionFrame m_frame;
-    int m_activeAnchor = 1; ///< 0 drags the start point, any other the end point
 };

@@ -95,16 +95,16 @@ MUTATIONS = [
     ),
     Mutation(
         "a figure is placed with its first click",
-        "vector/TonquillVectorItem.cpp",
-        "m_itemStatus = ItemStatus::Stretching;",
-        "m_itemStatus = ItemStatus::Placed;",
+        "items/DocumentItem.cpp",
+        "m_status = ItemStatus::Stretching;",
+        "m_status = ItemStatus::Placed;",
         "tst_pointerstates",
     ),
     Mutation(
         "the end of a rubber band is told to the host",
         "document/TonquillScenePointer.cpp",
         "        selectByRubberBand();\n        return;",
-        "        selectByRubberBand();\n        g_pMainWin->notifyTW();\n        return;",
+        "        selectByRubberBand();\n        m_context->editFinished();\n        return;",
         "tst_(rubberband|hostnotices)",
     ),
     Mutation(
@@ -243,7 +243,7 @@ MUTATIONS = [
     Mutation(
         "quick text follows the pointer when its mode is off",
         "document/TonquillScenePointer.cpp",
-        "if (m_quickTextBlock && g_pMainWin->quickText)",
+        "if (m_quickTextBlock && m_context->isQuickTextOn())",
         "if (m_quickTextBlock)",
         "tst_quicktext",
     ),
@@ -292,8 +292,8 @@ MUTATIONS = [
     Mutation(
         "a press in an edited block drags it",
         "items/TonquillTextBlock.cpp",
-        "    else if (ItemModel::onlyLeftButtonHeld(*event))\n        startDrag(*event);",
-        "    if (ItemModel::onlyLeftButtonHeld(*event))\n        startDrag(*event);",
+        "    else\n        press(*event);",
+        "    press(*event);",
         "tst_textblockediting",
     ),
     Mutation(
