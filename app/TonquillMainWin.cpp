@@ -17,7 +17,6 @@
 #include <QShortcut>
 
 TonquillMainWin *g_pMainWin = nullptr;
-QString g_csINIPath;
 
 namespace
 {
@@ -60,11 +59,6 @@ TonquillMainWin::TonquillMainWin(HostConnection connection, QWidget *parent)
     : QMainWindow(parent)
     , ui(new Ui_TonquillMainWin)
     , m_printer(QPrinter::ScreenResolution)
-    , m_insert(std::make_unique<InsertCommands>(*this))
-    , m_palette(std::make_unique<PaletteBuilder>(*this))
-    , m_symRefs(std::make_unique<SymRefFiles>(*this))
-    , m_hostLink(std::make_unique<HostLink>(*this))
-    , m_pagePrinter(std::make_unique<PagePrinter>(*this, *m_hostLink))
 {
     // A dialog closed while this window is hidden is no reason to end the program.
     QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -80,9 +74,10 @@ TonquillMainWin::TonquillMainWin(HostConnection connection, QWidget *parent)
     connect(&socket, SIGNAL(connected()), this, SLOT(onTWConnect()));
     scene = makeSceneForTheProcess(*this);
     ui->graphicsView->setScene(scene);
+    makeParts();
     constructBitmapSymbols();
     connect(ui->graphicsView, SIGNAL(scrolled(QPointF)), this, SLOT(onViewScroll(QPointF)));
-    m_palette->build();
+    m_palette->build(restMode);
     connect(ui->pb_insertPage, SIGNAL(clicked()), this, SLOT(OnInsertPageClicked()));
     connect(ui->pb_deletePAge, SIGNAL(clicked()), this, SLOT(OnMenuDeletePage()));
     connect(ui->sb_page, SIGNAL(valueChanged(int)), this, SLOT(OnSetCurPage(int)));
@@ -93,6 +88,22 @@ TonquillMainWin::TonquillMainWin(HostConnection connection, QWidget *parent)
     setWindowFlags(windowFlags() & ~(Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint));
     setFocusPolicy(Qt::ClickFocus);
     giveKeyboardToPage();
+}
+
+void TonquillMainWin::makeParts()
+{
+    m_insert = std::make_unique<InsertCommands>(*this, *scene);
+    m_symRefs =
+        std::make_unique<SymRefFiles>(*this, actions, menus, PaletteTable::symbolsReferenceId);
+    m_palette = std::make_unique<PaletteBuilder>(*this,
+                                                 PaletteBuilder::Parts{symbols, actions, menus,
+                                                                       strip2, strip2B, tb2Count,
+                                                                       tb2IconWidth, tb2IconHeight},
+                                                 [this] { return constructMenuSymRef(); });
+    m_hostLink = std::make_unique<HostLink>(*this, socket, *scene);
+    m_pagePrinter = std::make_unique<PagePrinter>(
+        *this, m_printer, *scene, [this] { return currentPage(); },
+        OutsidePause{[this] { m_hostLink->pause(); }, [this] { m_hostLink->resume(); }});
 }
 
 TonquillMainWin::~TonquillMainWin()
@@ -166,7 +177,7 @@ void TonquillMainWin::changeEvent(QEvent *event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
-        m_palette->refreshIcons();
+        m_palette->refreshIcons(restMode);
 }
 
 void TonquillMainWin::closeEvent(QCloseEvent *event)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DocumentContext.h"
+#include "SymRefPaths.h"
 
 #include <QHash>
 #include <QLocalSocket>
@@ -195,6 +196,7 @@ private:
     QPixmap symbolPicture(int id) const override { return symbols.value(id); }
     void editFinished() override { notifyTW(); }
 
+    void makeParts();
     void giveKeyboardToPage();
     int currentPage() const;
     void refreshPageLabel();
@@ -211,6 +213,3 @@ private:
 
 /** The one main window, from its construction to its destruction. */
 extern TonquillMainWin *g_pMainWin;
-
-/** The application's directory, where the symbols reference files lie. */
-extern QString g_csINIPath;

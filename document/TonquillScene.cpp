@@ -47,9 +47,7 @@ TonquillScene::TonquillScene(DocumentContext &context, QObject *parent)
     , m_context(&context)
 {
     const auto [paper, margins] = m_context->sheet();
-    paperRect = PageGeometry::paperRect(paper);
-    pageRect = PageGeometry::pageRect(paper, margins);
-    pageSpacing = PageGeometry::spacing(paperRect.height());
+    setPaper(PageGeometry::paperRect(paper), PageGeometry::pageRect(paper, margins));
     qCDebug(lcTonquill) << "ml " << margins.left() << "mt " << margins.top() << "mr "
                         << margins.right() << "mb " << margins.bottom();
     qCDebug(lcTonquill) << "Printer rect:" << paperRect << "page rect:" << pageRect;

@@ -41,6 +41,12 @@ public:
 
     // Pages. Numbers begin at 1 and are not range-checked.
 
+    /**
+     * Lays the pages out on this sheet with this printable area, both of the first page and in
+     * scene units. The scene's rectangle follows with the next setPageNum().
+     */
+    void setPaper(const QRectF &paper, const QRectF &frame);
+
     QRectF paperRect;       ///< the outer sheet of the first page, scene units
     QRectF pageRect;        ///< its printable area inside the margins, scene units
     double pageSpacing = 0; ///< the empty band between two pages, scene units
@@ -48,6 +54,11 @@ public:
     /** From the top of one page to the top of the next, scene units. */
     double pagePitch() const { return paperRect.height() + pageSpacing; }
 
+    /** The number of pages. */
+    int pageCount() const { return m_context->pages(); }
+    /** What is printed of page `index`, counted from 0: its printable area with the whole outline.
+     */
+    QRectF printedArea(int index) const;
     /** One more page at the end, without touching items. */
     void addPage();
     /** Sets the number of pages, without touching items. */

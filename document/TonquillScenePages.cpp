@@ -1,4 +1,5 @@
 #include "Logging.h"
+#include "PageGeometry.h"
 #include "PaperPainting.h"
 #include "TonquillBitmap.h"
 #include "TonquillScene.h"
@@ -9,6 +10,20 @@
 
 #include <algorithm>
 #include <typeinfo>
+
+void TonquillScene::setPaper(const QRectF &paper, const QRectF &frame)
+{
+    paperRect = paper;
+    pageRect = frame;
+    pageSpacing = PageGeometry::spacing(paper.height());
+}
+
+QRectF TonquillScene::printedArea(int index) const
+{
+    constexpr qreal aroundFrame = 2.0;
+    return pageRect.adjusted(-aroundFrame, -aroundFrame, aroundFrame, aroundFrame)
+        .translated(0, index * pagePitch());
+}
 
 void TonquillScene::resizeToPages()
 {

@@ -4,8 +4,10 @@
 #include "Logging.h"
 #include "OpenBox.h"
 #include "SocketPeer.h"
-#include "TonquillMainWin.h"
 #include "TonquillScene.h"
+
+#include <QLocalSocket>
+#include <QWidget>
 
 #include <utility>
 
@@ -25,12 +27,14 @@ int quietTimeOf(const IncomingMessage &message)
 }
 } // namespace
 
-HostLink::HostLink(TonquillMainWin &window)
+HostLink::HostLink(QWidget &window, QLocalSocket &socket, TonquillScene &scene)
     : QObject(&window)
     , m_window(window)
+    , m_socket(socket)
+    , m_scene(scene)
     , m_quiet(this)
     , m_silence(this)
-    , m_document(window)
+    , m_document(scene)
 {
     m_quiet.setSingleShot(true);
     m_quiet.setObjectName(QStringLiteral("quiet"));
@@ -38,26 +42,26 @@ HostLink::HostLink(TonquillMainWin &window)
     m_silence.setObjectName(QStringLiteral("silence"));
     connect(&m_silence, SIGNAL(timeout()), this, SLOT(giveUpIfQuiet()));
     connect(&m_quiet, SIGNAL(timeout()), this, SLOT(judgeIfQuiet()));
-    connect(&window.socket, SIGNAL(bytesWritten(qint64)), this, SLOT(sendNext()));
-    connect(&window.socket, SIGNAL(disconnected()), this, SLOT(onDisconnected()));
+    connect(&socket, SIGNAL(bytesWritten(qint64)), this, SLOT(sendNext()));
+    connect(&socket, SIGNAL(disconnected()), this, SLOT(onDisconnected()));
 }
 
 bool HostLink::keepsConnection()
 {
-    if (SocketPeer::isTrusted(m_window.socket))
+    if (SocketPeer::isTrusted(m_socket))
         return true;
-    qCWarning(lcTonquill).noquote() << "the host at" << m_window.socket.fullServerName()
+    qCWarning(lcTonquill).noquote() << "the host at" << m_socket.fullServerName()
                                     << "belongs to another user; the document is not sent to it";
-    m_window.socket.abort();
+    m_socket.abort();
     return false;
 }
 
 void HostLink::readAvailable()
 {
     // A socket that is closed must not be read from.
-    if (m_paused || m_window.socket.bytesAvailable() == 0)
+    if (m_paused || m_socket.bytesAvailable() == 0)
         return;
-    const QByteArray bytes = m_window.socket.readAll();
+    const QByteArray bytes = m_socket.readAll();
     if (m_incoming.isEmpty())
         m_sinceFirstPiece.start();
     m_incoming.append(bytes);
@@ -80,7 +84,7 @@ void HostLink::judgeIfQuiet()
 {
     if (m_paused)
         return;
-    m_window.socket.waitForReadyRead(0);
+    m_socket.waitForReadyRead(0);
     readAvailable();
     if (!m_quiet.isActive())
         judge();
@@ -131,7 +135,7 @@ void HostLink::act(const QString &payload)
     } else if (payload == HostMessages::stateNothingToRedo) {
         showBox(QStringLiteral("Redo"), QStringLiteral("Nothing to redo"));
     } else {
-        m_window.twMsg(payload);
+        receiveDocument(payload);
     }
 }
 
@@ -170,7 +174,7 @@ void HostLink::resume()
 {
     m_paused = false;
     m_sinceFirstPiece.start();
-    if (m_window.socket.state() == QLocalSocket::UnconnectedState) {
+    if (m_socket.state() == QLocalSocket::UnconnectedState) {
         onDisconnected();
         return;
     }
@@ -194,7 +198,7 @@ void HostLink::onDisconnected()
 
 void HostLink::sendDocument()
 {
-    if (m_window.socket.state() != QLocalSocket::ConnectedState)
+    if (m_socket.state() != QLocalSocket::ConnectedState)
         return;
     m_outbox.addDocument();
     sendNext();
@@ -202,7 +206,7 @@ void HostLink::sendDocument()
 
 void HostLink::sendCommand(const QString &command)
 {
-    if (m_window.socket.state() != QLocalSocket::ConnectedState)
+    if (m_socket.state() != QLocalSocket::ConnectedState)
         return;
     m_outbox.addCommand(command);
     sendNext();
@@ -210,7 +214,7 @@ void HostLink::sendCommand(const QString &command)
 
 void HostLink::sendNext()
 {
-    if (m_outbox.isEmpty() || m_window.socket.bytesToWrite() > 0)
+    if (m_outbox.isEmpty() || m_socket.bytesToWrite() > 0)
         return;
     const Outbox::Message next = m_outbox.takeFirst();
     if (next.isDocument() && m_incoming.isFromHost()) {
@@ -219,8 +223,8 @@ void HostLink::sendNext()
         return;
     }
     m_toldHost = m_toldHost || next.isDocument();
-    const QString text = next.isDocument() ? m_window.scene->notifyTW() : next.command;
+    const QString text = next.isDocument() ? m_scene.notifyTW() : next.command;
     qCDebug(lcRecords).noquote() << "notifyTW " << HostMessages::toHost + text;
     // Latin-1 keeps an accented letter; what it lacks becomes a question mark.
-    m_window.socket.write(HostMessages::toHost.toLatin1() + text.toLatin1());
+    m_socket.write(HostMessages::toHost.toLatin1() + text.toLatin1());
 }

@@ -8,7 +8,9 @@
 #include <QObject>
 #include <QTimer>
 
-class TonquillMainWin;
+class QLocalSocket;
+class QWidget;
+class TonquillScene;
 
 /**
  * The editor's end of the local socket to the host.
@@ -22,8 +24,11 @@ class HostLink : public QObject
     Q_OBJECT
 
 public:
-    /** Works on `window`, which is its parent and outlives it, and on the window's socket. */
-    explicit HostLink(TonquillMainWin &window);
+    /**
+     * The link over `socket` to the document on `scene`. `window` is what the host can bring to the
+     * front, and the link's parent. All outlive it.
+     */
+    HostLink(QWidget &window, QLocalSocket &socket, TonquillScene &scene);
 
     /**
      * To be asked on a new connection, before anything is sent. Somebody else's process is no host
@@ -64,7 +69,9 @@ private:
     void showWindow();
     void showBox(const QString &title, const QString &text);
 
-    TonquillMainWin &m_window;
+    QWidget &m_window;
+    QLocalSocket &m_socket;
+    TonquillScene &m_scene;
     IncomingMessage m_incoming;
     QElapsedTimer m_sinceFirstPiece;
     QTimer m_quiet;   ///< after it what came is judged

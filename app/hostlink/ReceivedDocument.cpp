@@ -1,15 +1,14 @@
 #include "ReceivedDocument.h"
 
-#include "TonquillMainWin.h"
 #include "TonquillScene.h"
 
-ReceivedDocument::ReceivedDocument(TonquillMainWin &window)
-    : m_window(window)
+ReceivedDocument::ReceivedDocument(TonquillScene &scene)
+    : m_scene(scene)
 {}
 
 void ReceivedDocument::show(QStringView payload)
 {
-    m_window.scene->clearScene();
+    m_scene.clearScene();
     // A page-count line builds nothing: pages come and go with the user's page controls only.
     build(payload);
 }
@@ -18,9 +17,8 @@ void ReceivedDocument::show(QStringView payload)
 bool ReceivedDocument::build(QStringView records)
 {
     const qsizetype last = records.lastIndexOf(u'|') + 1;
-    const bool hasBuilt =
-        m_window.scene->constructDocument(records.first(last)).object() != nullptr;
-    m_lastItem = m_window.scene->constructDocument(records.sliced(last));
+    const bool hasBuilt = m_scene.constructDocument(records.first(last)).object() != nullptr;
+    m_lastItem = m_scene.constructDocument(records.sliced(last));
     return hasBuilt || m_lastItem.object() != nullptr;
 }
 
@@ -44,9 +42,9 @@ bool ReceivedDocument::goOn(QStringView text, qsizetype cameBefore)
 /** Its last number had been cut. Gone, it stays gone: the user has deleted it meanwhile. */
 bool ReceivedDocument::replaceLastItem(QStringView record)
 {
-    QGraphicsItem *item = m_lastItem.get(m_window.scene);
+    QGraphicsItem *item = m_lastItem.get(&m_scene);
     if (!item)
         return false;
-    m_window.scene->destroyItems({item});
+    m_scene.destroyItems({item});
     return build(record);
 }

@@ -4,13 +4,14 @@
 
 #include <QStringView>
 
-class TonquillMainWin;
+class TonquillScene;
 
 /** The host's last document on the scene, which may turn out to have been cut, and then goes on. */
 class ReceivedDocument
 {
 public:
-    explicit ReceivedDocument(TonquillMainWin &window);
+    /** `scene` outlives the object. */
+    explicit ReceivedDocument(TonquillScene &scene);
 
     /** Replaces everything on the scene by these records, which are separated by "|". */
     void show(QStringView payload);
@@ -26,6 +27,6 @@ private:
     bool build(QStringView records);
     bool replaceLastItem(QStringView record);
 
-    TonquillMainWin &m_window;
+    TonquillScene &m_scene;
     ItemReference m_lastItem; ///< what the document's last record built
 };

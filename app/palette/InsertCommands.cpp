@@ -1,8 +1,6 @@
 #include "InsertCommands.h"
 
 #include "Logging.h"
-#include "TonquillBitmap.h"
-#include "TonquillMainWin.h"
 #include "TonquillScene.h"
 #include "TonquillSimpleTextDlg.h"
 #include "TonquillText.h"
@@ -14,23 +12,14 @@
 #include "TonquillVectorNoteTie.h"
 #include "TonquillVectorTriplet.h"
 
-InsertCommands::InsertCommands(TonquillMainWin &window)
+InsertCommands::InsertCommands(QWidget &window, TonquillScene &scene)
     : m_window(window)
+    , m_scene(scene)
 {}
-
-TonquillScene &InsertCommands::scene() const
-{
-    return *m_window.scene;
-}
-
-TonquillBitmap *InsertCommands::bitmap(int id, bool adding, bool withInverted)
-{
-    return scene().insertSymbol(id, adding, withInverted);
-}
 
 void InsertCommands::text()
 {
-    if (scene().isNewItemIsAdding())
+    if (m_scene.isNewItemIsAdding())
         return;
     TonquillSimpleTextDlg dialog(&m_window);
     if (dialog.exec() != QDialog::Accepted)
@@ -57,9 +46,9 @@ void InsertCommands::tempo(const QString &term)
 
 void InsertCommands::addText(TonquillText *item)
 {
-    QObject::connect(item, &TonquillText::showTextItemMenu, &scene(),
+    QObject::connect(item, &TonquillText::showTextItemMenu, &m_scene,
                      &TonquillScene::onTextItemContextMenu);
-    scene().addNewItem(item);
+    m_scene.addNewItem(item);
 }
 
 void InsertCommands::timeSignature(const QString &text)
@@ -68,20 +57,20 @@ void InsertCommands::timeSignature(const QString &text)
     const QStringView view(text);
     const int upper = slash < 0 ? text.toInt() : view.first(slash).toInt();
     const int lower = slash < 0 ? 0 : view.sliced(slash + 1).toInt();
-    scene().addNewItem(new TonquillTimeSig(upper, lower, true));
+    m_scene.addNewItem(new TonquillTimeSig(upper, lower, true));
 }
 
 void InsertCommands::textBlock()
 {
-    if (!scene().isNewItemIsAdding())
-        scene().addNewItem(new TonquillTextBlock(true, QString(), QRectF()));
+    if (!m_scene.isNewItemIsAdding())
+        m_scene.addNewItem(new TonquillTextBlock(true, QString(), QRectF()));
 }
 
 template <typename VectorItem>
 void InsertCommands::vectorItem()
 {
-    if (!scene().isNewItemIsAdding())
-        scene().addNewItem(new VectorItem(true, QPointF(0, 0), QPointF(0, 0)));
+    if (!m_scene.isNewItemIsAdding())
+        m_scene.addNewItem(new VectorItem(true, QPointF(0, 0), QPointF(0, 0)));
 }
 
 void InsertCommands::grandstaff()
@@ -106,5 +95,5 @@ void InsertCommands::line()
 
 void InsertCommands::tablature()
 {
-    scene().addNewItem(new TonquillVectorLineTab(true, QPointF(0, 0), QPointF(0, 0)));
+    m_scene.addNewItem(new TonquillVectorLineTab(true, QPointF(0, 0), QPointF(0, 0)));
 }

@@ -2,23 +2,20 @@
 
 #include <QString>
 
-class QGraphicsItem;
-class TonquillBitmap;
-class TonquillMainWin;
+class QWidget;
 class TonquillScene;
 class TonquillText;
 
 /**
- * The palette's commands: each makes a new item and hands it to the scene, where it follows the
- * pointer until it is placed. Most of them first drop an item that still waits for that.
+ * The palette's commands for all but symbols: each makes a new item and hands it to the scene,
+ * where it follows the pointer until it is placed. Most of them first drop an item that still waits
+ * for that.
  */
 class InsertCommands
 {
 public:
-    explicit InsertCommands(TonquillMainWin &window);
-
-    /** See TonquillMainWin::InsertBitmapSymbol(). */
-    TonquillBitmap *bitmap(int id, bool adding, bool withInverted);
+    /** For `scene`, with dialogs over `window`. Both outlive the object. */
+    InsertCommands(QWidget &window, TonquillScene &scene);
 
     /** A simple text, after its dialog was accepted. */
     void text();
@@ -42,7 +39,7 @@ private:
     template <typename VectorItem>
     void vectorItem();
     void addText(TonquillText *item);
-    TonquillScene &scene() const;
 
-    TonquillMainWin &m_window;
+    QWidget &m_window;
+    TonquillScene &m_scene;
 };

@@ -1,6 +1,5 @@
 #include "PaletteBuilder.h"
 
-#include "TonquillMainWin.h"
 #include "ToolBarStrip.h"
 
 #include <QAction>
@@ -12,6 +11,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -28,15 +28,18 @@ void tellIfPointerLeft(QToolButton &button)
 }
 } // namespace
 
-PaletteBuilder::PaletteBuilder(TonquillMainWin &window)
+PaletteBuilder::PaletteBuilder(QWidget &window, const Parts &parts,
+                               std::function<QMenu *()> symbolsReferenceMenu)
     : m_window(window)
+    , m_parts(parts)
+    , m_symbolsReferenceMenu(std::move(symbolsReferenceMenu))
 {}
 
-void PaletteBuilder::build()
+void PaletteBuilder::build(bool rests)
 {
     for (const PaletteToolBar &row : PaletteTable::toolBars())
         buildToolBar(row);
-    refreshIcons();
+    refreshIcons(rests);
 }
 
 void PaletteBuilder::buildToolBar(const PaletteToolBar &row)
@@ -57,7 +60,7 @@ void PaletteBuilder::addAction(QToolBar *toolBar, const PaletteEntry &entry)
     action->setToolTip(entry.translatedName());
     action->setStatusTip(entry.translatedName());
     toolBar->widgetForAction(action)->setAccessibleName(entry.translatedName());
-    m_window.actions.insert(entry.id, action);
+    m_parts.actions.insert(entry.id, action);
     QObject::connect(action, SIGNAL(triggered()), &m_window, entry.slot);
 }
 
@@ -70,8 +73,8 @@ void PaletteBuilder::addMenuButton(QToolBar *toolBar, const PaletteEntry &entry)
     button->setAccessibleName(entry.translatedName());
     button->setAutoRaise(true);
     QAction *action = toolBar->addWidget(button);
-    m_window.actions.insert(entry.id, action);
-    m_window.menus.insert(entry.id, menu);
+    m_parts.actions.insert(entry.id, action);
+    m_parts.menus.insert(entry.id, menu);
 }
 
 QToolButton *PaletteBuilder::constructToolButton(const QIcon &icon, QMenu *menu)
@@ -90,7 +93,7 @@ QToolButton *PaletteBuilder::constructToolButton(const QIcon &icon, QMenu *menu)
 QMenu *PaletteBuilder::constructMenu(int buttonId)
 {
     if (buttonId == PaletteTable::symbolsReferenceId)
-        return m_window.constructMenuSymRef();
+        return m_symbolsReferenceMenu();
     const QList<PaletteMenu> &rows = PaletteTable::menus();
     const auto row = std::find_if(rows.cbegin(), rows.cend(), [buttonId](const PaletteMenu &menu) {
         return menu.buttonId == buttonId;
@@ -108,7 +111,7 @@ QMenu *PaletteBuilder::fillMenu(const PaletteMenu &row)
         }
         QAction *action = menu->addAction(QString::fromLatin1(entry.text), &m_window, entry.slot);
         action->setStatusTip(entry.translatedName());
-        m_window.actions.insert(entry.id, action);
+        m_parts.actions.insert(entry.id, action);
     }
     return menu;
 }
@@ -118,12 +121,12 @@ QColor PaletteBuilder::ink() const
     return m_window.palette().color(QPalette::ButtonText);
 }
 
-void PaletteBuilder::refreshIcons()
+void PaletteBuilder::refreshIcons(bool rests)
 {
     for (const PaletteToolBar &row : PaletteTable::toolBars())
         inkToolBar(row);
     inkMenus();
-    m_window.swapTb2();
+    showToolBar2Icons(rests);
 }
 
 void PaletteBuilder::inkToolBar(const PaletteToolBar &row)
@@ -133,7 +136,7 @@ void PaletteBuilder::inkToolBar(const PaletteToolBar &row)
     QToolBar *toolBar = toolBarOf(row);
     toolBar->setIconSize(strip.sliceSize());
     for (int i = 0; i < count; ++i) {
-        QAction *action = m_window.actions.value(row.entries[i].id);
+        QAction *action = m_parts.actions.value(row.entries[i].id);
         action->setIcon(strip.icon(i, ink()));
         auto *button = qobject_cast<QToolButton *>(toolBar->widgetForAction(action));
         button->setIcon(action->icon());
@@ -145,15 +148,15 @@ void PaletteBuilder::inkToolBar(const PaletteToolBar &row)
 
 void PaletteBuilder::keepToolBar2Strips(const ToolBarStrip &normal, const ToolBarStrip &held)
 {
-    m_window.tb2Count = normal.count();
-    m_window.tb2IconWidth = normal.sliceSize().width();
-    m_window.tb2IconHeight = normal.sliceSize().height();
+    m_parts.tb2Count = normal.count();
+    m_parts.tb2IconWidth = normal.sliceSize().width();
+    m_parts.tb2IconHeight = normal.sliceSize().height();
     m_toolBar2Icons.clear();
     m_toolBar2HeldIcons.clear();
     for (int i = 0; i < normal.count(); ++i) {
         const int id = PaletteTable::toolBar2FirstId + i;
-        m_window.strip2.insert(id, normal.slice(i, ink()));
-        m_window.strip2B.insert(id, held.slice(i, ink()));
+        m_parts.strip2.insert(id, normal.slice(i, ink()));
+        m_parts.strip2B.insert(id, held.slice(i, ink()));
         m_toolBar2Icons.append(normal.icon(i, ink()));
         m_toolBar2HeldIcons.append(held.icon(i, ink()));
     }
@@ -166,8 +169,8 @@ void PaletteBuilder::inkMenus()
         for (const PaletteEntry &entry : row.entries) {
             if (entry.symbol < 0)
                 continue;
-            const QPixmap glyph = m_window.symbols.value(entry.symbol);
-            m_window.actions.value(entry.id)->setIcon(
+            const QPixmap glyph = m_parts.symbols.value(entry.symbol);
+            m_parts.actions.value(entry.id)->setIcon(
                 ToolBarStrip::inked(glyph.toImage(), m_window.palette().color(QPalette::Text)));
         }
     }
@@ -176,11 +179,11 @@ void PaletteBuilder::inkMenus()
 void PaletteBuilder::showToolBar2Icons(bool rests)
 {
     const QList<QIcon> &icons = rests ? m_toolBar2HeldIcons : m_toolBar2Icons;
-    for (int i = 0; i < m_window.tb2Count; ++i) {
+    for (int i = 0; i < m_parts.tb2Count; ++i) {
         // The four menu buttons keep their icons.
         const int id = PaletteTable::toolBar2FirstId + i;
-        if (!m_window.menus.contains(id))
-            m_window.actions.value(id)->setIcon(icons[i]);
+        if (!m_parts.menus.contains(id))
+            m_parts.actions.value(id)->setIcon(icons[i]);
     }
 }
 

@@ -2,25 +2,49 @@
 
 #include "PaletteTable.h"
 
+#include <QHash>
 #include <QIcon>
+#include <QPixmap>
 
+#include <functional>
+
+class QAction;
 class QMenu;
 class QToolBar;
 class QToolButton;
-class TonquillMainWin;
+class QWidget;
 class ToolBarStrip;
 
-/** Builds the three toolbars and their menus from the PaletteTable, into the window's hashes. */
+/** Builds the three toolbars and their menus from the PaletteTable, for a window that has them. */
 class PaletteBuilder
 {
 public:
-    explicit PaletteBuilder(TonquillMainWin &window);
+    /** Where what is built can be found, and the pictures of the symbols, all by their ids. */
+    struct Parts
+    {
+        const QHash<int, QPixmap> &symbols;
+        QHash<int, QAction *> &actions;
+        QHash<int, QMenu *> &menus;
+        QHash<int, QPixmap> &strip2;  ///< toolbar 2's icons
+        QHash<int, QPixmap> &strip2B; ///< the same while Ctrl is held
+        int &tb2Count;
+        int &tb2IconWidth;  ///< pixels
+        int &tb2IconHeight; ///< pixels
+    };
+
+    /**
+     * `window` has the toolbars by their names, and the slots that the table names; it owns the
+     * menus. It and the parts outlive the builder. `symbolsReferenceMenu` makes the menu of the
+     * button of that name.
+     */
+    PaletteBuilder(QWidget &window, const Parts &parts,
+                   std::function<QMenu *()> symbolsReferenceMenu);
 
     /** Builds everything and connects every action to its slot. */
-    void build();
+    void build(bool rests);
 
-    /** Inks all icons in the window's present palette. */
-    void refreshIcons();
+    /** Inks all icons in the window's present palette; `rests` as for showToolBar2Icons(). */
+    void refreshIcons(bool rests);
 
     /** Shows rests on toolbar 2's note buttons, or the normal icons. */
     void showToolBar2Icons(bool rests);
@@ -40,7 +64,9 @@ private:
     QToolBar *toolBarOf(const PaletteToolBar &row) const;
     QColor ink() const;
 
-    TonquillMainWin &m_window;
+    QWidget &m_window;
+    Parts m_parts;
+    std::function<QMenu *()> m_symbolsReferenceMenu;
     QList<QIcon> m_toolBar2Icons;
     QList<QIcon> m_toolBar2HeldIcons;
 };

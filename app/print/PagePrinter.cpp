@@ -2,11 +2,8 @@
 
 #include "OpenBox.h"
 #include "PageRange.h"
-#include "PrintProgress.h"
 #include "PrinterPaper.h"
-#include "TonquillMainWin.h"
 #include "TonquillScene.h"
-#include "TonquillView.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -16,13 +13,14 @@
 #include <QPointer>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
+#include <QPrinter>
 #include <QTimer>
+#include <QWidget>
+
+#include <utility>
 
 namespace
 {
-/** The frame of a page is printed whole: this much more than the frame on every side. */
-constexpr qreal aroundFrame = 2.0;
-
 /** The last bytes of a PDF file, which hold its end mark. */
 constexpr qint64 endOfPdf = 16;
 
@@ -49,28 +47,31 @@ bool isFileComplete(const QPrinter &printer)
 }
 } // namespace
 
-PagePrinter::PagePrinter(TonquillMainWin &window, HostLink &hostLink)
+PagePrinter::PagePrinter(QWidget &window, QPrinter &printer, TonquillScene &scene,
+                         std::function<int()> currentPage, OutsidePause pause)
     : m_window(window)
-    , m_hostLink(hostLink)
+    , m_printer(printer)
+    , m_scene(scene)
+    , m_currentPage(std::move(currentPage))
+    , m_pause(std::move(pause))
 {}
 
 void PagePrinter::setOwnPaper(const QSizeF &sheet, const QRectF &frame)
 {
-    QPrinter &printer = m_window.sharedPrinter();
     m_ownFrame = frame;
     m_ownPaper = PrinterPaper::layoutOf(sheet, frame);
-    printer.setPageLayout(m_ownPaper);
-    m_setPaper = printer.pageLayout();
+    m_printer.setPageLayout(m_ownPaper);
+    m_setPaper = m_printer.pageLayout();
 }
 
 void PagePrinter::showPreview()
 {
-    QPrintPreviewDialog dialog(&m_window.sharedPrinter(), &m_window);
+    QPrintPreviewDialog dialog(&m_printer, &m_window);
     QObject::connect(&dialog, SIGNAL(paintRequested(QPrinter *)), &m_window,
                      SLOT(print(QPrinter *)));
     dialog.exec();
     // Pages may have been chosen for a print from within the preview.
-    PageRange::chooseAll(m_window.sharedPrinter());
+    PageRange::chooseAll(m_printer);
 }
 
 /**
@@ -79,8 +80,7 @@ void PagePrinter::showPreview()
  */
 void PagePrinter::showPageSetup()
 {
-    const QPointer<QPageSetupDialog> dialog =
-        new QPageSetupDialog(&m_window.sharedPrinter(), &m_window);
+    const QPointer<QPageSetupDialog> dialog = new QPageSetupDialog(&m_printer, &m_window);
     dialog->open(&m_window, SLOT(OnPageSetupAccepted()));
     QTimer::singleShot(0, dialog, [dialog] {
         if (dialog->isVisible())
@@ -92,14 +92,13 @@ void PagePrinter::showPageSetup()
 
 void PagePrinter::showPrintDialog()
 {
-    QPrinter &printer = m_window.sharedPrinter();
-    QPrintDialog dialog(&printer, &m_window);
-    dialog.setMinMax(1, qMax(1, m_window.pageCount));
+    QPrintDialog dialog(&m_printer, &m_window);
+    dialog.setMinMax(1, qMax(1, m_scene.pageCount()));
     dialog.setOption(QPrintDialog::PrintPageRange);
     dialog.setOption(QPrintDialog::PrintCurrentPage);
     if (dialog.exec() == QDialog::Accepted)
-        print(printer);
-    PageRange::chooseAll(printer);
+        print(m_printer);
+    PageRange::chooseAll(m_printer);
 }
 
 void PagePrinter::print(QPrinter &printer) const
@@ -123,7 +122,7 @@ PagePrinter::Outcome PagePrinter::printPages(QPrinter &printer) const
     const QList<int> pages = pagesFor(printer);
     QPainter painter;
     // Were none of the chosen pages there, the printer would bring out an empty one.
-    if ((pages.isEmpty() && m_window.pageCount > 0) || !painter.begin(&printer))
+    if ((pages.isEmpty() && m_scene.pageCount() > 0) || !painter.begin(&printer))
         return Outcome::NotStarted;
     painter.setRenderHint(QPainter::LosslessImageRendering);
     const QRectF target = targetOn(printer);
@@ -133,7 +132,7 @@ PagePrinter::Outcome PagePrinter::printPages(QPrinter &printer) const
             printer.abort();
             return Outcome::Cancelled;
         }
-        m_window.scene->render(&painter, target, sourceOfPage(pages[i]), Qt::IgnoreAspectRatio);
+        m_scene.render(&painter, target, m_scene.printedArea(pages[i]), Qt::IgnoreAspectRatio);
         if (i < pages.size() - 1 && !printer.newPage())
             return Outcome::BrokenOff;
     }
@@ -144,11 +143,10 @@ PagePrinter::Outcome PagePrinter::printPages(QPrinter &printer) const
 /** The preview always shows all pages. */
 QList<int> PagePrinter::pagesFor(const QPrinter &printer) const
 {
-    const int count = m_window.pageCount;
+    const int count = m_scene.pageCount();
     if (isPreview(printer))
         return PageRange::all(count);
-    return PageRange::chosenOn(printer, count,
-                               m_window.scene->getPageAt(m_window.view()->curScenePos()));
+    return PageRange::chosenOn(printer, count, m_currentPage());
 }
 
 /** None for the preview, which is no print, nor while there is no window to watch it. */
@@ -156,16 +154,7 @@ std::unique_ptr<PrintProgress> PagePrinter::progressOf(const QPrinter &printer, 
 {
     if (isPreview(printer) || !m_window.isVisible())
         return nullptr;
-    return std::make_unique<PrintProgress>(m_window, m_hostLink, pages);
-}
-
-QRectF PagePrinter::sourceOfPage(int index) const
-{
-    const TonquillScene &scene = *m_window.scene;
-    return QRectF(scene.pageRect.left() - aroundFrame,
-                  index * scene.pagePitch() + scene.pageRect.top() - aroundFrame,
-                  scene.pageRect.width() + 2 * aroundFrame,
-                  scene.pageRect.height() + 2 * aroundFrame);
+    return std::make_unique<PrintProgress>(m_window, m_pause, pages);
 }
 
 /** Null, which stands for all of the printable area, but for the document's own paper. */

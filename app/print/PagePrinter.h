@@ -1,15 +1,17 @@
 #pragma once
 
+#include "PrintProgress.h"
+
 #include <QCoreApplication>
 #include <QPageLayout>
 #include <QRectF>
 
+#include <functional>
 #include <memory>
 
-class HostLink;
-class PrintProgress;
 class QPrinter;
-class TonquillMainWin;
+class QWidget;
+class TonquillScene;
 
 /** Prints pages of the document, one printed page for each, and opens the print dialogs. */
 class PagePrinter
@@ -25,12 +27,17 @@ public:
         BrokenOff
     };
 
-    /** Both outlive the page printer; `hostLink` has to wait while a long print goes on. */
-    PagePrinter(TonquillMainWin &window, HostLink &hostLink);
+    /**
+     * Prints the pages of `scene`. The dialogs set `printer` and stand over `window`, which has the
+     * slots print(QPrinter *) for the preview and OnPageSetupAccepted(). All three outlive the page
+     * printer. `currentPage` says, from 1, which page the user sees.
+     */
+    PagePrinter(QWidget &window, QPrinter &printer, TonquillScene &scene,
+                std::function<int()> currentPage, OutsidePause pause);
 
     /**
-     * Sets the shared printer to the paper that the document is laid out on, in inches. As long as
-     * it stays at that, pages come out with their frame where it is on their own sheet; a page
+     * Sets the dialogs' printer to the paper that the document is laid out on, in inches. As long
+     * as it stays at that, pages come out with their frame where it is on their own sheet; a page
      * setup that is chosen later has them stretched as ever, until this is called again.
      */
     void setOwnPaper(const QSizeF &sheet, const QRectF &frame);
@@ -53,13 +60,15 @@ private:
     Outcome printPages(QPrinter &printer) const;
     QList<int> pagesFor(const QPrinter &printer) const;
     std::unique_ptr<PrintProgress> progressOf(const QPrinter &printer, int pages) const;
-    QRectF sourceOfPage(int index) const;
     QRectF targetOn(const QPrinter &printer) const;
     void reportFailure() const;
 
-    TonquillMainWin &m_window;
-    HostLink &m_hostLink;
+    QWidget &m_window;
+    QPrinter &m_printer;
+    TonquillScene &m_scene;
+    std::function<int()> m_currentPage;
+    OutsidePause m_pause;
     QRectF m_ownFrame;      ///< inches; null unless the document has paper of its own
     QPageLayout m_ownPaper; ///< as the document has it
-    QPageLayout m_setPaper; ///< as the shared printer took it, perhaps with wider margins
+    QPageLayout m_setPaper; ///< as the printer took it, perhaps with wider margins
 };

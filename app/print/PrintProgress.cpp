@@ -1,17 +1,15 @@
 #include "PrintProgress.h"
 
-#include "HostLink.h"
-
 namespace
 {
 constexpr int noticedAsLong = 1000; // milliseconds
 } // namespace
 
-PrintProgress::PrintProgress(QWidget &window, HostLink &hostLink, int pages)
-    : m_hostLink(hostLink)
+PrintProgress::PrintProgress(QWidget &window, const OutsidePause &pause, int pages)
+    : m_pause(pause)
     , m_dialog(&window)
 {
-    m_hostLink.pause();
+    m_pause.begin();
     m_dialog.setWindowTitle(QStringLiteral("Tonquill"));
     m_dialog.setLabelText(tr("Printing..."));
     m_dialog.setRange(0, pages);
@@ -21,7 +19,7 @@ PrintProgress::PrintProgress(QWidget &window, HostLink &hostLink, int pages)
 
 PrintProgress::~PrintProgress()
 {
-    m_hostLink.resume();
+    m_pause.end();
 }
 
 bool PrintProgress::beginPage(int index)

@@ -3,19 +3,30 @@
 #include <QCoreApplication>
 #include <QProgressDialog>
 
-class HostLink;
+#include <functional>
+
+class QWidget;
+
+/** How to keep what comes from outside, such as a host's document, unread while pages are printed.
+ */
+struct OutsidePause
+{
+    std::function<void()> begin;
+    std::function<void()> end;
+};
 
 /**
  * One print as the user watches it. A dialog appears once the print proves to be a long one, and
  * has the user's events processed from page to page. Until the print is over nothing else of the
- * program can be used, and what the host sends has to wait.
+ * program can be used, and what comes from outside has to wait.
  */
 class PrintProgress
 {
     Q_DECLARE_TR_FUNCTIONS(PrintProgress)
 
 public:
-    PrintProgress(QWidget &window, HostLink &hostLink, int pages);
+    /** Of so many pages, watched over `window`. `pause` outlives the object. */
+    PrintProgress(QWidget &window, const OutsidePause &pause, int pages);
     ~PrintProgress();
 
     /** To be called before page `index`, counted from 0. False if the user has cancelled. */
@@ -24,6 +35,6 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(PrintProgress)
 
-    HostLink &m_hostLink;
+    const OutsidePause &m_pause;
     QProgressDialog m_dialog;
 };

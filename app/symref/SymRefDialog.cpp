@@ -1,6 +1,6 @@
 #include "SymRefDialog.h"
 
-#include "SymRefFiles.h"
+#include "SymRefPaths.h"
 #include "ui_SymRefDialog.h"
 
 #include <QDir>
@@ -34,7 +34,7 @@ void SymRefDialog::on_pb_ok_clicked()
 {
     if (!checkInput())
         return;
-    const QString path = SymRefFiles::pathOf(ui->lineEdit->text());
+    const QString path = SymRefPaths::pathOf(ui->lineEdit->text());
     // Only a folder of that name asks; an existing file is overwritten. The "%s" is shown as it
     // stands. Both are intentional.
     if (QDir(path).exists() &&
@@ -62,7 +62,7 @@ bool SymRefDialog::checkInput()
         warn(QStringLiteral("Please supply some Symbols Key Text, thanks."));
         return false;
     }
-    if (!SymRefFiles::staysInDirectory(instrument)) {
+    if (!SymRefPaths::staysInDirectory(instrument)) {
         warn(
             QStringLiteral("Please use letters and numbers only for the Instrument Name, thanks."));
         return false;

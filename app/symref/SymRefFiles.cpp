@@ -1,8 +1,7 @@
 #include "SymRefFiles.h"
 
-#include "PaletteTable.h"
 #include "SymRefDialog.h"
-#include "TonquillMainWin.h"
+#include "SymRefPaths.h"
 
 #include <QAction>
 #include <QDir>
@@ -12,7 +11,9 @@
 
 namespace
 {
-constexpr QStringView namePrefix = u"SymRef_";
+// The keys of the menu's two fixed entries.
+constexpr int headingId = 0x1000;
+constexpr int createNewId = 0x1001;
 
 /** Opens a text file in the user's editor and waits for the opener, whatever becomes of it. */
 void openInTextEditor(const QString &path)
@@ -27,27 +28,31 @@ void openInTextEditor(const QString &path)
 }
 } // namespace
 
-SymRefFiles::SymRefFiles(TonquillMainWin &window)
+SymRefFiles::SymRefFiles(QWidget &window, QHash<int, QAction *> &actions,
+                         const QHash<int, QMenu *> &menus, int buttonId)
     : m_window(window)
+    , m_actions(actions)
+    , m_menus(menus)
+    , m_buttonId(buttonId)
 {}
 
 QMenu *SymRefFiles::menu()
 {
-    QMenu *menu = m_window.menus.value(PaletteTable::symbolsReferenceId);
+    QMenu *menu = m_menus.value(m_buttonId);
     if (menu)
         menu->clear();
     else
         menu = new QMenu(&m_window);
-    m_window.actions.insert(PaletteTable::symRefHeadingId,
-                            menu->addAction(QStringLiteral("Symbols Reference...")));
-    m_window.actions.insert(PaletteTable::symRefCreateNewId,
-                            menu->addAction(QStringLiteral("Create New"), &m_window,
-                                            SLOT(OnMenuActionSymRefCreateNew())));
+    m_actions.insert(headingId, menu->addAction(QStringLiteral("Symbols Reference...")));
+    m_actions.insert(createNewId, menu->addAction(QStringLiteral("Create New"), &m_window,
+                                                  SLOT(OnMenuActionSymRefCreateNew())));
     QDir directory(g_csINIPath);
     // Name filters alone would take "symref_" as well, which is another kind of file.
     directory.setFilter(directory.filter() | QDir::CaseSensitive);
-    for (const QString &fileName : directory.entryList({QStringLiteral("SymRef_*.txt")})) {
-        const QString instrument = QFileInfo(fileName).baseName().sliced(namePrefix.size());
+    for (const QString &fileName :
+         directory.entryList({SymRefPaths::namePrefix + QStringLiteral("*.txt")})) {
+        const QString instrument =
+            QFileInfo(fileName).baseName().sliced(SymRefPaths::namePrefix.size());
         QAction *action = menu->addAction(instrument, &m_window, SLOT(OnMenuActionSymRefSymRef()));
         action->setData(directory.absoluteFilePath(fileName));
     }
@@ -75,17 +80,4 @@ void SymRefFiles::openWithNotepad(const QString &fileName) const
 #else
     openInTextEditor(path);
 #endif
-}
-
-QString SymRefFiles::pathOf(const QString &instrument)
-{
-    return g_csINIPath + QStringLiteral("/SymRef_") + instrument + QStringLiteral(".txt");
-}
-
-bool SymRefFiles::staysInDirectory(const QString &instrument)
-{
-    // "SymRef_" stands before the name, so "..", too, is a name of its own until a separator comes.
-    QString name = instrument;
-    const QStringList steps = name.replace(QDir::separator(), u'/').split(u'/');
-    return steps.size() == 1 || !steps.contains(QStringLiteral(".."));
 }

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QHash>
 #include <QString>
 
+class QAction;
 class QMenu;
 class QObject;
-class TonquillMainWin;
+class QWidget;
 
 /**
  * The symbols reference files: one plain text for each instrument, in the application's directory.
@@ -13,7 +15,13 @@ class TonquillMainWin;
 class SymRefFiles
 {
 public:
-    explicit SymRefFiles(TonquillMainWin &window);
+    /**
+     * `window` owns the menu and has the slots OnMenuActionSymRefCreateNew() and
+     * OnMenuActionSymRefSymRef(). The two fixed entries go into `actions`; the menu is refilled
+     * once it is known in `menus` by its button's id. All outlive the object.
+     */
+    SymRefFiles(QWidget &window, QHash<int, QAction *> &actions, const QHash<int, QMenu *> &menus,
+                int buttonId);
 
     /** The menu of the symbols-reference button, made or filled anew from the directory. */
     QMenu *menu();
@@ -27,12 +35,9 @@ public:
     /** Opens a text file with the system's "notepad", by its name in the directory. */
     void openWithNotepad(const QString &fileName) const;
 
-    /** The file of an instrument. */
-    static QString pathOf(const QString &instrument);
-
-    /** False if the name climbs out of a folder, and with it out of the application's directory. */
-    static bool staysInDirectory(const QString &instrument);
-
 private:
-    TonquillMainWin &m_window;
+    QWidget &m_window;
+    QHash<int, QAction *> &m_actions;
+    const QHash<int, QMenu *> &m_menus;
+    int m_buttonId;
 };

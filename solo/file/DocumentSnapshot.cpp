@@ -19,9 +19,7 @@ void setPaper(TonquillMainWin &window, const Paper &paper)
     TonquillScene &scene = *window.scene;
     if (paper.size.isEmpty() || paper == DocumentSnapshot::paperOf(window))
         return;
-    scene.paperRect.setSize(paper.size);
-    scene.pageRect = paper.frame;
-    scene.pageSpacing = PageGeometry::spacing(paper.size.height());
+    scene.setPaper(QRectF(scene.paperRect.topLeft(), paper.size), paper.frame);
     DocumentSnapshot::setPrinterPaper(window);
 }
 

@@ -22,7 +22,7 @@ public:
     QString records() const { return FuzzEditor::window().scene->notifyTW(); }
 
 private:
-    ReceivedDocument m_document{FuzzEditor::window()};
+    ReceivedDocument m_document{*FuzzEditor::window().scene};
 };
 
 /** True if the bytes are a document as hosts write it, which may be cut anywhere. */

@@ -4,6 +4,7 @@
 #include "PaletteBuilder.h"
 #include "SymbolTable.h"
 #include "TonquillMainWin.h"
+#include "TonquillScene.h"
 #include "ui_TonquillMainWin.h"
 
 #include <QAction>
@@ -15,7 +16,7 @@ void TonquillMainWin::constructBitmapSymbols()
 
 TonquillBitmap *TonquillMainWin::InsertBitmapSymbol(int id, bool adding, bool withInverted)
 {
-    return m_insert->bitmap(id, adding, withInverted);
+    return scene->insertSymbol(id, adding, withInverted);
 }
 
 void TonquillMainWin::InsertNoteRest(int id)
