@@ -135,6 +135,16 @@ public:
     /** Builds a copy of every record that was copied so far, moved by 30. */
     void onPaste();
 
+    // Commands of keys and menus. They answer false, with nothing done, while a text is edited that
+    // they would act on as a whole: it has its own way to copy, paste or delete a part of itself.
+
+    /** Copies the records of the selected items, besides what was copied before. */
+    bool copySelection();
+    /** As onPaste(). */
+    bool pasteCopies();
+    /** Deletes the selected items. */
+    bool deleteSelection();
+
     /** Removes and destroys items without a parent, each of which the list names once. */
     void destroyItems(const QList<QGraphicsItem *> &items);
 
@@ -190,9 +200,7 @@ private:
     void startQuickTextBlock();
     bool isAnyItemEdited() const;
     bool isSelectedItemEdited() const;
-    void deleteSelection();
-    void copySelection();
-    void addSameItem();
+    bool addSameItem();
 
     DocumentContext *m_context; ///< never null
     qsizetype m_addedItems = 0; ///< since the scene was cleared

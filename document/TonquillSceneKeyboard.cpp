@@ -116,29 +116,22 @@ void TonquillScene::keyReleaseEvent(QKeyEvent *event)
     qCDebug(lcPointer) << "key release" << event->key() << event->isAutoRepeat();
     const int key = event->key();
     const QKeySequence::StandardKey clipboardCommand = m_clipboardKeys.release(*event);
+    bool isDone = false;
     if (key == Qt::Key_Delete || key == Qt::Key_Backspace) {
-        if (isSelectedItemEdited())
-            QGraphicsScene::keyReleaseEvent(event);
-        else
-            deleteSelection();
-    } else if (clipboardCommand != QKeySequence::UnknownKey) {
-        // An edited text has copied or pasted a part of itself when the key was pressed.
-        if (isAnyItemEdited())
-            QGraphicsScene::keyReleaseEvent(event);
-        else if (clipboardCommand == QKeySequence::Copy)
-            copySelection();
-        else
-            onPaste();
+        isDone = deleteSelection();
+    } else if (clipboardCommand == QKeySequence::Copy) {
+        isDone = copySelection();
+    } else if (clipboardCommand == QKeySequence::Paste) {
+        isDone = pasteCopies();
+    } else if (key == Qt::Key_Space) {
+        isDone = addSameItem();
     } else if (key == Qt::Key_Control) {
         m_context->setRestMode(false);
-    } else if (key == Qt::Key_Space) {
-        if (isAnyItemEdited())
-            QGraphicsScene::keyReleaseEvent(event);
-        else
-            addSameItem();
-    } else {
-        QGraphicsScene::keyReleaseEvent(event);
+        isDone = true;
     }
+    // An edited text has copied or pasted a part of itself when the key was pressed.
+    if (!isDone)
+        QGraphicsScene::keyReleaseEvent(event);
 }
 
 /** The keyboard comes back. Ctrl may have been pressed or let go meanwhile, unknown to the page. */
@@ -172,23 +165,37 @@ bool TonquillScene::isSelectedItemEdited() const
     return std::any_of(selected.cbegin(), selected.cend(), isTextBeingEdited);
 }
 
-void TonquillScene::deleteSelection()
+bool TonquillScene::deleteSelection()
 {
+    if (isSelectedItemEdited())
+        return false;
     const QList<QGraphicsItem *> selected = selectedItems();
-    if (selected.isEmpty())
-        return;
-    destroyItems(selected);
-    m_context->editFinished();
+    if (!selected.isEmpty()) {
+        destroyItems(selected);
+        m_context->editFinished();
+    }
+    return true;
 }
 
 /** The copy buffer is never emptied: a paste makes everything that was copied so far. */
-void TonquillScene::copySelection()
+bool TonquillScene::copySelection()
 {
+    if (isAnyItemEdited())
+        return false;
     qCDebug(lcTonquill) << "copy items";
     for (QGraphicsItem *item : selectedItems()) {
         if (QObject *object = ItemReference::objectOf(item))
             m_copyBuffer.append(recordOf(object));
     }
+    return true;
+}
+
+bool TonquillScene::pasteCopies()
+{
+    if (isAnyItemEdited())
+        return false;
+    onPaste();
+    return true;
 }
 
 void TonquillScene::onPaste()
@@ -200,12 +207,14 @@ void TonquillScene::onPaste()
 }
 
 /** Makes one more item like the last one that was added, following the pointer. */
-void TonquillScene::addSameItem()
+bool TonquillScene::addSameItem()
 {
-    QGraphicsItem *last = m_lastAdded.get(this);
-    if (!last)
-        return;
-    const QString record = recordOf(m_lastAdded.object());
-    qCDebug(lcRecords) << "params=" << record;
-    constructItem(record, true, atCursor);
+    if (isAnyItemEdited())
+        return false;
+    if (m_lastAdded.get(this)) {
+        const QString record = recordOf(m_lastAdded.object());
+        qCDebug(lcRecords) << "params=" << record;
+        constructItem(record, true, atCursor);
+    }
+    return true;
 }

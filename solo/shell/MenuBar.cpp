@@ -95,39 +95,30 @@ void MenuBar::buildEditMenu()
     redo->setShortcuts(
         {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
     menu->addSeparator();
-    const QList<QAction *> keys{
-        addKeyEntry(menu, tr("&Copy"), Qt::Key_C, Qt::ControlModifier),
-        addKeyEntry(menu, tr("&Paste"), Qt::Key_V, Qt::ControlModifier),
-        addKeyEntry(menu, tr("&Delete"), Qt::Key_Delete, Qt::NoModifier),
+    const QList<QAction *> itemCommands{
+        addItemCommand(menu, tr("&Copy"), QKeyCombination(Qt::CTRL, Qt::Key_C),
+                       &TonquillScene::copySelection),
+        addItemCommand(menu, tr("&Paste"), QKeyCombination(Qt::CTRL, Qt::Key_V),
+                       &TonquillScene::pasteCopies),
+        addItemCommand(menu, tr("&Delete"), Qt::Key_Delete, &TonquillScene::deleteSelection),
     };
     menu->addSeparator();
     menu->addAction(tr("Select &All"), QKeySequence::SelectAll, this, &MenuBar::selectAll);
     // Meant for a part of a text, they would act on whole items. A press on the bar has ended the
     // editing by now, and so has another menu; the key of this menu only does so after this.
-    connect(menu, &QMenu::aboutToShow, this, [this, keys] {
+    connect(menu, &QMenu::aboutToShow, this, [this, itemCommands] {
         const auto *text = qgraphicsitem_cast<TonquillTextBlock *>(m_window.scene->focusItem());
         const bool isTextMeant = m_textWasLeft || (text && TonquillTextBlock::isEdited(*text));
-        for (QAction *entry : keys)
+        for (QAction *entry : itemCommands)
             entry->setDisabled(isTextMeant);
     });
 }
 
-QAction *MenuBar::addKeyEntry(QMenu *menu, const QString &text, Qt::Key key,
-                              Qt::KeyboardModifiers modifiers)
+QAction *MenuBar::addItemCommand(QMenu *menu, const QString &text, QKeyCombination key,
+                                 bool (TonquillScene::*command)())
 {
-    const QString shown =
-        QKeySequence(QKeyCombination(modifiers, key)).toString(QKeySequence::NativeText);
-    return menu->addAction(text + u'\t' + shown, this,
-                           [this, key, modifiers] { typeKey(key, modifiers); });
-}
-
-/** Does what the key does, in the editor's own way. */
-void MenuBar::typeKey(Qt::Key key, Qt::KeyboardModifiers modifiers)
-{
-    QKeyEvent press(QEvent::KeyPress, key, modifiers);
-    QCoreApplication::sendEvent(m_window.scene, &press);
-    QKeyEvent release(QEvent::KeyRelease, key, modifiers);
-    QCoreApplication::sendEvent(m_window.scene, &release);
+    return menu->addAction(text + u'\t' + QKeySequence(key).toString(QKeySequence::NativeText),
+                           m_window.scene, command);
 }
 
 void MenuBar::selectAll()

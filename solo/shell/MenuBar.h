@@ -5,6 +5,7 @@
 class FileCommands;
 class QGraphicsItem;
 class TonquillMainWin;
+class TonquillScene;
 class ZoomControl;
 
 /**
@@ -35,9 +36,8 @@ private:
     void buildHelpMenu();
     void fillRecentMenu();
     void addToolBarEntry(QMenu *menu, const char *objectName, const QString &text);
-    QAction *addKeyEntry(QMenu *menu, const QString &text, Qt::Key key,
-                         Qt::KeyboardModifiers modifiers);
-    void typeKey(Qt::Key key, Qt::KeyboardModifiers modifiers);
+    QAction *addItemCommand(QMenu *menu, const QString &text, QKeyCombination key,
+                            bool (TonquillScene::*command)());
     void leave();
     void selectAll();
     void forgetText();

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void everyPaletteCommandIsInTheInsertMenu();
     void ctrlMakesNoRestOfANoteInTheInsertMenu();
     void copyAndPasteFromTheMenuActOnce();
+    void copyAndPasteFromTheMenuBeginNoQuickText();
     void aTextLeftForTheMenuIsNotDeleted();
     void theTitleTellsNameAndChange();
     void aSavedFileIsInOpenRecent();
@@ -219,6 +220,18 @@ void SoloWindowTest::copyAndPasteFromTheMenuActOnce()
     entry("Delete")->trigger();
     QTRY_COMPARE(m_solo->session().edits().document().items,
                  QByteArrayList{"tonquill_bitmap 230 230 19"});
+}
+
+/** The letters of their keys, typed, would. */
+void SoloWindowTest::copyAndPasteFromTheMenuBeginNoQuickText()
+{
+    placeNote();
+    entry("Select All")->trigger();
+    m_solo->window().quickText = true;
+    entry("Copy")->trigger();
+    entry("Paste")->trigger();
+    QTRY_COMPARE(m_solo->session().edits().document().items,
+                 (QByteArrayList{"tonquill_bitmap 200 200 19", "tonquill_bitmap 230 230 19"}));
 }
 
 void SoloWindowTest::aTextLeftForTheMenuIsNotDeleted()
