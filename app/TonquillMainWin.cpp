@@ -95,7 +95,7 @@ void TonquillMainWin::makeParts()
     m_insert = std::make_unique<InsertCommands>(*this, *scene);
     m_symRefs =
         std::make_unique<SymRefFiles>(*this, actions, menus, PaletteTable::symbolsReferenceId);
-    m_palette = std::make_unique<PaletteBuilder>(*this,
+    m_palette = std::make_unique<PaletteBuilder>(*this, *scene,
                                                  PaletteBuilder::Parts{symbols, actions, menus,
                                                                        strip2, strip2B, tb2Count,
                                                                        tb2IconWidth, tb2IconHeight},

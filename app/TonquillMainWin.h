@@ -50,7 +50,7 @@ public:
     Ui_TonquillMainWin *ui;         ///< the widget tree
     QLocalSocket socket;            ///< the link to the host
     TonquillScene *scene = nullptr; ///< the document; it outlives the window
-    QHash<int, QPixmap> symbols;    ///< the glyphs, by symbol id
+    QHash<int, QPixmap> symbols;    ///< the pictures, by symbol id
     QHash<int, QAction *> actions;  ///< toolbar and menu actions, by slot id
     QHash<int, QMenu *> menus;      ///< the menus of toolbar buttons, by the button's slot id
     QHash<int, QPixmap> strip2;     ///< toolbar 2's icons, by slot id
@@ -74,13 +74,13 @@ public:
     /** The view of the scene. */
     TonquillView *view() const;
 
-    /** Loads the glyphs of the symbol table. */
+    /** Loads the pictures of the symbol table. */
     void constructBitmapSymbols();
 
     /**
      * Makes a glyph and adds it to the scene, which owns it. With `withInverted` its inverted
-     * form is the glyph of the next id. An id without a glyph makes an item without a picture.
-     * Null if no item was made.
+     * form is its symbol's upside-down one, if any. An id without a picture makes an item without
+     * one. Null if no item was made.
      */
     TonquillBitmap *InsertBitmapSymbol(int id, bool adding, bool withInverted);
 

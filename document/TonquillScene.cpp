@@ -3,13 +3,13 @@
 #include "DocumentItem.h"
 #include "Logging.h"
 #include "PageGeometry.h"
+#include "SymbolTable.h"
 #include "TonquillBitmap.h"
 #include "TonquillText.h"
 
 #include <algorithm>
 #include <bit>
 #include <iterator>
-#include <limits>
 
 namespace
 {
@@ -84,11 +84,9 @@ TonquillBitmap *TonquillScene::insertSymbol(int id, bool adding, bool withInvert
 {
     if (isNewItemIsAdding())
         return nullptr;
-    // The inverted form of a rest is the next shorter note. That pairing is intentional. No id
-    // follows the largest int.
-    const bool hasNext = withInverted && id < std::numeric_limits<int>::max();
+    const std::optional<int> other = withInverted ? SymbolTable::upsideDownOf(id) : std::nullopt;
     auto *item = new TonquillBitmap(m_context->symbolPicture(id), id, adding,
-                                    hasNext ? m_context->symbolPicture(id + 1) : QPixmap());
+                                    other ? m_context->symbolPicture(*other) : QPixmap());
     addNewItem(item);
     return item;
 }

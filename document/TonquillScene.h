@@ -109,9 +109,9 @@ public:
     void addNewItem(QGraphicsItem *item);
 
     /**
-     * Makes a glyph and adds it. With `withInverted` its inverted form is the glyph of the next id.
-     * An id without a glyph makes an item without a picture. An item that waits to be placed is
-     * dropped first. Null if no item was made.
+     * Makes a glyph and adds it. With `withInverted` its inverted form is what SymbolTable names as
+     * the symbol's upside-down form, if any. An id without a picture makes an item without one. An
+     * item that waits to be placed is dropped first. Null if no item was made.
      */
     TonquillBitmap *insertSymbol(int id, bool adding, bool withInverted);
 

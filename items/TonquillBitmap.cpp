@@ -3,6 +3,7 @@
 #include "GlyphDrawings.h"
 #include "PaperPainting.h"
 #include "Records.h"
+#include "SymbolTable.h"
 
 #include <QGraphicsSceneMouseEvent>
 #include <QPainter>
@@ -14,7 +15,7 @@ TonquillBitmap::TonquillBitmap(const QPixmap &pixmap, int symbolId, bool adding,
     : DocumentItemOf(adding, pixmap, parent)
     , m_otherPixmap(std::move(invertedPixmap))
 {
-    setOffset(-(pixmap.width() / 2), -(pixmap.height() / 2));
+    setOffset(-SymbolTable::referencePoint(symbolId, pixmap.size()));
     setShapeMode(BoundingRectShape);
     setSelected(adding);
     setZValue(symbolZValue);
@@ -31,6 +32,8 @@ void TonquillBitmap::setInverted(bool inverted)
     frame().parentBoundsAboutToChange();
     const QPixmap shown = pixmap();
     setPixmap(std::exchange(m_otherPixmap, shown));
+    const QSize normal = (inverted ? m_otherPixmap : pixmap()).size();
+    setOffset(-SymbolTable::referencePoint(data(ItemData::symbolId).toInt(), normal, inverted));
 }
 
 QString TonquillBitmap::getParamStr()

@@ -8,8 +8,8 @@
 
 /**
  * A glyph that the palette places as a picture: a note, rest, clef, accidental, repeat sign or
- * pedal mark. It shows the normal or the inverted pixmap, centred on its position, and can be
- * moved but not resized.
+ * pedal mark. It shows the normal or the inverted pixmap, whose symbol's reference point is its
+ * position, in general their middle, and can be moved but not resized.
  */
 class TonquillBitmap : public QObject, public DocumentItemOf<QGraphicsPixmapItem>
 {

@@ -1,5 +1,6 @@
 #include "PaletteBuilder.h"
 
+#include "TonquillScene.h"
 #include "ToolBarStrip.h"
 
 #include <QAction>
@@ -28,9 +29,10 @@ void tellIfPointerLeft(QToolButton &button)
 }
 } // namespace
 
-PaletteBuilder::PaletteBuilder(QWidget &window, const Parts &parts,
+PaletteBuilder::PaletteBuilder(QWidget &window, TonquillScene &scene, const Parts &parts,
                                std::function<QMenu *()> symbolsReferenceMenu)
     : m_window(window)
+    , m_scene(scene)
     , m_parts(parts)
     , m_symbolsReferenceMenu(std::move(symbolsReferenceMenu))
 {}
@@ -46,10 +48,10 @@ void PaletteBuilder::buildToolBar(const PaletteToolBar &row)
 {
     QToolBar *toolBar = toolBarOf(row);
     for (const PaletteEntry &entry : row.entries) {
-        if (entry.slot)
-            addAction(toolBar, entry);
-        else
+        if (entry.opensMenu())
             addMenuButton(toolBar, entry);
+        else
+            addAction(toolBar, entry);
     }
 }
 
@@ -57,20 +59,31 @@ void PaletteBuilder::buildToolBar(const PaletteToolBar &row)
 void PaletteBuilder::addAction(QToolBar *toolBar, const PaletteEntry &entry)
 {
     QAction *action = toolBar->addAction(QString());
-    action->setToolTip(entry.translatedName());
-    action->setStatusTip(entry.translatedName());
-    toolBar->widgetForAction(action)->setAccessibleName(entry.translatedName());
+    action->setToolTip(entry.translatedTip());
+    action->setStatusTip(entry.translatedTip());
+    toolBar->widgetForAction(action)->setAccessibleName(entry.translatedTip());
     m_parts.actions.insert(entry.id, action);
-    QObject::connect(action, SIGNAL(triggered()), &m_window, entry.slot);
+    connectAction(*action, entry);
+}
+
+void PaletteBuilder::connectAction(QAction &action, const PaletteEntry &entry)
+{
+    if (entry.slot) {
+        QObject::connect(&action, SIGNAL(triggered()), &m_window, entry.slot);
+        return;
+    }
+    QObject::connect(
+        &action, &QAction::triggered, &m_scene,
+        [scene = &m_scene, symbol = entry.symbol] { scene->insertSymbol(symbol, true, true); });
 }
 
 void PaletteBuilder::addMenuButton(QToolBar *toolBar, const PaletteEntry &entry)
 {
-    QMenu *menu = constructMenu(entry.id);
+    QMenu *menu = constructMenuOf(entry.id);
     QToolButton *button = constructToolButton(QIcon(), menu);
-    button->setToolTip(entry.translatedName());
-    button->setStatusTip(entry.translatedName());
-    button->setAccessibleName(entry.translatedName());
+    button->setToolTip(entry.translatedTip());
+    button->setStatusTip(entry.translatedTip());
+    button->setAccessibleName(entry.translatedTip());
     button->setAutoRaise(true);
     QAction *action = toolBar->addWidget(button);
     m_parts.actions.insert(entry.id, action);
@@ -90,7 +103,7 @@ QToolButton *PaletteBuilder::constructToolButton(const QIcon &icon, QMenu *menu)
     return button;
 }
 
-QMenu *PaletteBuilder::constructMenu(int buttonId)
+QMenu *PaletteBuilder::constructMenuOf(int buttonId)
 {
     if (buttonId == PaletteTable::symbolsReferenceId)
         return m_symbolsReferenceMenu();
@@ -98,10 +111,10 @@ QMenu *PaletteBuilder::constructMenu(int buttonId)
     const auto row = std::find_if(rows.cbegin(), rows.cend(), [buttonId](const PaletteMenu &menu) {
         return menu.buttonId == buttonId;
     });
-    return fillMenu(*row);
+    return constructMenu(*row);
 }
 
-QMenu *PaletteBuilder::fillMenu(const PaletteMenu &row)
+QMenu *PaletteBuilder::constructMenu(const PaletteMenu &row)
 {
     auto *menu = new QMenu(&m_window);
     for (const PaletteEntry &entry : row.entries) {
@@ -109,8 +122,10 @@ QMenu *PaletteBuilder::fillMenu(const PaletteMenu &row)
             menu->addSeparator();
             continue;
         }
-        QAction *action = menu->addAction(QString::fromLatin1(entry.text), &m_window, entry.slot);
-        action->setStatusTip(entry.translatedName());
+        QAction *action =
+            menu->addAction(*entry.text ? QString::fromLatin1(entry.text) : entry.translatedName());
+        connectAction(*action, entry);
+        action->setStatusTip(entry.translatedTip());
         m_parts.actions.insert(entry.id, action);
     }
     return menu;

@@ -13,6 +13,7 @@ class QMenu;
 class QToolBar;
 class QToolButton;
 class QWidget;
+class TonquillScene;
 class ToolBarStrip;
 
 /** Builds the three toolbars and their menus from the PaletteTable, for a window that has them. */
@@ -34,14 +35,17 @@ public:
 
     /**
      * `window` has the toolbars by their names, and the slots that the table names; it owns the
-     * menus. It and the parts outlive the builder. `symbolsReferenceMenu` makes the menu of the
-     * button of that name.
+     * menus. Symbols without a slot are inserted into `scene`. All of them and the parts outlive
+     * the builder. `symbolsReferenceMenu` makes the menu of the button of that name.
      */
-    PaletteBuilder(QWidget &window, const Parts &parts,
+    PaletteBuilder(QWidget &window, TonquillScene &scene, const Parts &parts,
                    std::function<QMenu *()> symbolsReferenceMenu);
 
-    /** Builds everything and connects every action to its slot. */
+    /** Builds everything and connects every action to what it does. */
     void build(bool rests);
+
+    /** Builds the menu of a row, which the window then owns. */
+    QMenu *constructMenu(const PaletteMenu &row);
 
     /** Inks all icons in the window's present palette; `rests` as for showToolBar2Icons(). */
     void refreshIcons(bool rests);
@@ -56,8 +60,8 @@ private:
     void buildToolBar(const PaletteToolBar &row);
     void addAction(QToolBar *toolBar, const PaletteEntry &entry);
     void addMenuButton(QToolBar *toolBar, const PaletteEntry &entry);
-    QMenu *constructMenu(int buttonId);
-    QMenu *fillMenu(const PaletteMenu &row);
+    QMenu *constructMenuOf(int buttonId);
+    void connectAction(QAction &action, const PaletteEntry &entry);
     void inkToolBar(const PaletteToolBar &row);
     void inkMenus();
     void keepToolBar2Strips(const ToolBarStrip &normal, const ToolBarStrip &held);
@@ -65,6 +69,7 @@ private:
     QColor ink() const;
 
     QWidget &m_window;
+    TonquillScene &m_scene;
     Parts m_parts;
     std::function<QMenu *()> m_symbolsReferenceMenu;
     QList<QIcon> m_toolBar2Icons;

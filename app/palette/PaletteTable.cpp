@@ -1,5 +1,7 @@
 #include "PaletteTable.h"
 
+#include "SymbolTable.h"
+
 #include <QCoreApplication>
 #include <QObject>
 
@@ -9,6 +11,20 @@ namespace
 {
 /** Marks a name for translation; scripts/translate knows it, and takes its context from here. */
 #define NAME(text) QT_TRANSLATE_NOOP("PaletteTable", text)
+
+/** A button or entry that stands for a symbol and has its name. */
+PaletteEntry symbolEntry(int id, const char *slot, int symbol, const char *text = "")
+{
+    return {.id = id, .slot = slot, .text = text, .symbol = symbol};
+}
+
+/** The button of a note value, which counts from 0 (whole) to 7 (128th). */
+PaletteEntry noteButton(int id, const char *slot, int value)
+{
+    PaletteEntry entry = symbolEntry(id, slot, SymbolTable::note(value));
+    entry.hint = NAME("hold Ctrl for the rest");
+    return entry;
+}
 
 QList<PaletteEntry> toolBar1Entries()
 {
@@ -43,18 +59,18 @@ QList<PaletteEntry> toolBar2Entries()
         {0x103, nullptr, "", NAME("Tempo")},
         {0x104, nullptr, "", NAME("Time signatures")},
         {0x105, nullptr, "", NAME("Accidentals")},
-        {0x106, SLOT(OnToolBar2ButtonRepeatB()), "", NAME("Repeat begin")},
-        {0x107, SLOT(OnToolBar2ButtonRepeatE()), "", NAME("Repeat end")},
-        {0x108, SLOT(OnToolBar2ButtonStaffLine()), "", NAME("Staff line")},
-        {0x109, SLOT(OnToolBar2ButtonNote1()), "", NAME("Whole note (hold Ctrl for the rest)")},
-        {0x10a, SLOT(OnToolBar2ButtonNote2()), "", NAME("Half note (hold Ctrl for the rest)")},
-        {0x10b, SLOT(OnToolBar2ButtonNote4()), "", NAME("Quarter note (hold Ctrl for the rest)")},
-        {0x10c, SLOT(OnToolBar2ButtonNote8()), "", NAME("Eighth note (hold Ctrl for the rest)")},
-        {0x10d, SLOT(OnToolBar2ButtonNote16()), "", NAME("16th note (hold Ctrl for the rest)")},
-        {0x10e, SLOT(OnToolBar2ButtonNote32()), "", NAME("32nd note (hold Ctrl for the rest)")},
-        {0x10f, SLOT(OnToolBar2ButtonNote64()), "", NAME("64th note (hold Ctrl for the rest)")},
-        {0x110, SLOT(OnToolBar2ButtonNote128()), "", NAME("128th note (hold Ctrl for the rest)")},
-        {0x111, SLOT(OnToolBar2ButtonNoteDot()), "", NAME("Note dot")},
+        symbolEntry(0x106, SLOT(OnToolBar2ButtonRepeatB()), SymbolTable::repeatBegin),
+        symbolEntry(0x107, SLOT(OnToolBar2ButtonRepeatE()), SymbolTable::repeatEnd),
+        symbolEntry(0x108, SLOT(OnToolBar2ButtonStaffLine()), SymbolTable::staffLine),
+        noteButton(0x109, SLOT(OnToolBar2ButtonNote1()), 0),
+        noteButton(0x10a, SLOT(OnToolBar2ButtonNote2()), 1),
+        noteButton(0x10b, SLOT(OnToolBar2ButtonNote4()), 2),
+        noteButton(0x10c, SLOT(OnToolBar2ButtonNote8()), 3),
+        noteButton(0x10d, SLOT(OnToolBar2ButtonNote16()), 4),
+        noteButton(0x10e, SLOT(OnToolBar2ButtonNote32()), 5),
+        noteButton(0x10f, SLOT(OnToolBar2ButtonNote64()), 6),
+        noteButton(0x110, SLOT(OnToolBar2ButtonNote128()), 7),
+        symbolEntry(0x111, SLOT(OnToolBar2ButtonNoteDot()), SymbolTable::noteDot),
         {0x112, SLOT(OnToolBar2ButtonNoteTrip()), "", NAME("Triplet bracket")},
         {0x113, SLOT(OnToolBar2ButtonNoteTie()), "", NAME("Tie")},
     };
@@ -63,17 +79,17 @@ QList<PaletteEntry> toolBar2Entries()
 QList<PaletteEntry> clefs()
 {
     return {
-        {0x1100, SLOT(OnMenuButtonGClef()), "G Clef", NAME("G clef"), 2},
-        {0x1101, SLOT(OnMenuButtonFClef()), "F Clef", NAME("F clef"), 3},
+        symbolEntry(0x1100, SLOT(OnMenuButtonGClef()), SymbolTable::gClef, "G Clef"),
+        symbolEntry(0x1101, SLOT(OnMenuButtonFClef()), SymbolTable::fClef, "F Clef"),
     };
 }
 
 QList<PaletteEntry> accidentals()
 {
     return {
-        {0x1400, SLOT(OnMenuButtonFlat()), "Flat", NAME("Flat"), 5},
-        {0x1401, SLOT(OnMenuButtonSharp()), "Sharp", NAME("Sharp"), 4},
-        {0x1402, SLOT(OnMenuButtonNatural()), "Natural", NAME("Natural"), 6},
+        symbolEntry(0x1400, SLOT(OnMenuButtonFlat()), SymbolTable::flat, "Flat"),
+        symbolEntry(0x1401, SLOT(OnMenuButtonSharp()), SymbolTable::sharp, "Sharp"),
+        symbolEntry(0x1402, SLOT(OnMenuButtonNatural()), SymbolTable::natural, "Natural"),
     };
 }
 
@@ -100,8 +116,8 @@ QList<PaletteEntry> tempos()
 QList<PaletteEntry> timeSignatures()
 {
     QList<PaletteEntry> entries{
-        {0x1300, SLOT(OnMenuButtonCReg()), "C", NAME("Common time"), 0},
-        {0x1301, SLOT(OnMenuButtonCCut()), "C(cut)", NAME("Cut time"), 1},
+        symbolEntry(0x1300, SLOT(OnMenuButtonCReg()), SymbolTable::commonTime, "C"),
+        symbolEntry(0x1301, SLOT(OnMenuButtonCCut()), SymbolTable::cutTime, "C(cut)"),
         PaletteEntry::separator(),
     };
     entries += entriesByText(0x1302, SLOT(OnToolBar2ActionTimesig()),
@@ -119,7 +135,18 @@ QList<PaletteEntry> timeSignatures()
 
 QString PaletteEntry::translatedName() const
 {
-    return QCoreApplication::translate("PaletteTable", name);
+    if (name)
+        return QCoreApplication::translate("PaletteTable", name);
+    const Symbol *shown = SymbolTable::find(symbol);
+    return shown ? shown->translatedSense() : QString();
+}
+
+QString PaletteEntry::translatedTip() const
+{
+    if (!hint)
+        return translatedName();
+    return QStringLiteral("%1 (%2)").arg(translatedName(),
+                                         QCoreApplication::translate("PaletteTable", hint));
 }
 
 const QList<PaletteToolBar> &PaletteTable::toolBars()

@@ -3,21 +3,36 @@
 #include <QList>
 #include <QString>
 
-/** One toolbar button or menu entry of the palette. */
+/**
+ * One toolbar button or menu entry of the palette: it triggers a slot, inserts a symbol, or opens a
+ * menu.
+ */
 struct PaletteEntry
 {
-    int id;           ///< its key in the main window's action or menu hash
-    const char *slot; ///< the main window's slot, as SLOT() gives it; null for a menu button
-    const char *text; ///< what a menu shows; empty on a toolbar, whose buttons are icons
-    const char *name; ///< tooltip, status tip and accessible name, untranslated
-    int symbol = -1;  ///< the glyph that a menu entry shows as its icon, or -1
+    int id = -1; ///< its key in the main window's action or menu hash
+    const char *slot =
+        nullptr;           ///< the main window's slot, as SLOT() gives it; null if there is none
+    const char *text = ""; ///< what a menu shows; empty for its name, and on a toolbar
+    const char *name = nullptr; ///< untranslated; null if it is the sense of its symbol
+    const char *hint = nullptr; ///< what the tips add, untranslated, or null
+    /**
+     * The symbol that it stands for, or -1: the icon of a menu entry. Without a slot the entry
+     * inserts it, with its upside-down form if it has one.
+     */
+    int symbol = -1;
 
     /** What a line between two entries of a menu is written as. */
-    static PaletteEntry separator() { return {-1, nullptr, "", "", -1}; }
+    static PaletteEntry separator() { return {}; }
     bool isSeparator() const { return id < 0; }
+
+    /** True for the button of a menu. */
+    bool opensMenu() const { return !isSeparator() && !slot && symbol < 0; }
 
     /** The name in the user's language. */
     QString translatedName() const;
+
+    /** Tooltip, status tip and accessible name: the name and the hint in the user's language. */
+    QString translatedTip() const;
 };
 
 /** One of the three toolbars: its entries' icons are the slices of one image strip, in order. */
@@ -38,15 +53,13 @@ struct PaletteMenu
 
 /**
  * The whole palette as rows. Toolbars, menus, tooltips and connections are built from nothing
- * else, so a new symbol is one row here, one slot, and one slice of a strip.
+ * else, so a new symbol is one row here, and on a toolbar a slice of its strip.
  */
 namespace PaletteTable
 {
 /** The button of toolbar 3 whose menu lists the symbols reference files. */
 inline constexpr int symbolsReferenceId = 0x202;
 inline constexpr int toolBar2FirstId = 0x100;
-inline constexpr int symRefHeadingId = 0x1000;
-inline constexpr int symRefCreateNewId = 0x1001;
 
 /** The toolbars in the order in which they are built: 1, 3, 2. */
 const QList<PaletteToolBar> &toolBars();

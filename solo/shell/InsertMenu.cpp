@@ -7,25 +7,12 @@
 #include <QAction>
 #include <QMenu>
 
-#include <array>
-
 namespace
 {
 /** The toolbars that insert something; the first holds commands of other menus. */
 bool inserts(const PaletteToolBar &toolBar)
 {
     return qstrcmp(toolBar.objectName, "toolBar1") != 0;
-}
-
-constexpr int noteValues = 8;
-constexpr int firstNoteButton = PaletteTable::toolBar2FirstId + 9;
-
-/** A name without the hint on what Ctrl does, which does not hold for a menu. */
-QString plainName(const PaletteEntry &entry)
-{
-    const QString name = entry.translatedName();
-    const qsizetype hint = name.indexOf(QLatin1String(" ("));
-    return hint < 0 ? name : name.first(hint);
 }
 } // namespace
 
@@ -45,27 +32,26 @@ void InsertMenu::fill(QMenu &menu, TonquillMainWin &window)
 void InsertMenu::addToolBar(const PaletteToolBar &toolBar)
 {
     for (const PaletteEntry &entry : toolBar.entries) {
-        if (entry.slot)
-            addEntry(m_menu, entry);
-        else
+        if (entry.opensMenu())
             addButtonMenu(entry);
+        else
+            addEntry(m_menu, entry);
     }
 }
 
 void InsertMenu::addEntry(QMenu &menu, const PaletteEntry &entry)
 {
     QAction *command = m_window.actions.value(entry.id);
+    // Without the hint on what Ctrl does, which does not hold for a menu.
     QAction *action =
-        menu.addAction(command->icon(), plainName(entry).replace(u'&', QStringLiteral("&&")));
-    const int value = entry.id - firstNoteButton;
-    if (value < 0 || value >= noteValues) {
+        menu.addAction(command->icon(), entry.translatedName().replace(u'&', QStringLiteral("&&")));
+    if (!SymbolTable::isNote(entry.symbol)) {
         QObject::connect(action, &QAction::triggered, command, &QAction::trigger);
         return;
     }
     // What is called a note is one with Ctrl held, too: the rests have a menu of their own.
-    QObject::connect(action, &QAction::triggered, &m_window, [window = &m_window, value] {
-        window->InsertNoteRest(SymbolTable::note(value));
-    });
+    QObject::connect(action, &QAction::triggered, &m_window,
+                     [window = &m_window, note = entry.symbol] { window->InsertNoteRest(note); });
 }
 
 void InsertMenu::addButtonMenu(const PaletteEntry &entry)
@@ -90,12 +76,10 @@ void InsertMenu::addButtonMenu(const PaletteEntry &entry)
 /** The toolbar has them behind the notes while Ctrl is held. */
 void InsertMenu::addRests()
 {
-    const std::array names{tr("Whole rest"), tr("Half rest"), tr("Quarter rest"), tr("Eighth rest"),
-                           tr("16th rest"),  tr("32nd rest"), tr("64th rest"),    tr("128th rest")};
     QMenu *rests = m_menu.addMenu(tr("Rests"));
-    for (int value = 0; value < int(names.size()); ++value) {
-        rests->addAction(names[size_t(value)], &m_window, [window = &m_window, value] {
-            window->InsertNoteRest(SymbolTable::rest(value));
-        });
+    for (int value = 0; value < SymbolTable::noteValues; ++value) {
+        const int rest = SymbolTable::rest(value);
+        rests->addAction(SymbolTable::find(rest)->translatedSense(), &m_window,
+                         [window = &m_window, rest] { window->InsertNoteRest(rest); });
     }
 }

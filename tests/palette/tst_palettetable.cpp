@@ -199,7 +199,7 @@ void PaletteTableTest::everyRowIsASlotAnActionAndAButton()
     const auto *button = qobject_cast<QToolButton *>(
         toolBarOf(row.objectName)->widgetForAction(const_cast<QAction *>(action)));
     QVERIFY(!button->icon().isNull());
-    const QString name = entry.translatedName();
+    const QString name = entry.translatedTip();
     QVERIFY(!name.isEmpty());
     QCOMPARE(button->toolTip(), name);
     QCOMPARE(button->statusTip(), name);

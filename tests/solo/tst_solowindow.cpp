@@ -192,7 +192,8 @@ void SoloWindowTest::everyPaletteCommandIsInTheInsertMenu()
     }
     for (const PaletteMenu &menu : PaletteTable::menus()) {
         for (const PaletteEntry &row : menu.entries)
-            QVERIFY2(row.isSeparator() || names.contains(row.translatedName()), row.name);
+            QVERIFY2(row.isSeparator() || names.contains(row.translatedName()),
+                     qPrintable(row.translatedName()));
     }
     QVERIFY(names.contains("Eighth rest"));
 }
