@@ -177,16 +177,16 @@ void PaletteBuilder::keepToolBar2Strips(const ToolBarStrip &normal, const ToolBa
     }
 }
 
-/** The glyphs are black; in a menu they take the colour of the menu's text. */
+/** The symbols are black; in a menu they take the colour of the menu's text. */
 void PaletteBuilder::inkMenus()
 {
     for (const PaletteMenu &row : PaletteTable::menus()) {
         for (const PaletteEntry &entry : row.entries) {
             if (entry.symbol < 0)
                 continue;
-            const QPixmap glyph = m_parts.symbols.value(entry.symbol);
+            const QPixmap picture = m_parts.symbols.value(entry.symbol);
             m_parts.actions.value(entry.id)->setIcon(
-                ToolBarStrip::inked(glyph.toImage(), m_window.palette().color(QPalette::Text)));
+                ToolBarStrip::inked(picture.toImage(), m_window.palette().color(QPalette::Text)));
         }
     }
 }
