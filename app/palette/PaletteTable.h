@@ -9,10 +9,9 @@
  */
 struct PaletteEntry
 {
-    int id = -1; ///< its key in the main window's action or menu hash
-    const char *slot =
-        nullptr;           ///< the main window's slot, as SLOT() gives it; null if there is none
-    const char *text = ""; ///< what a menu shows; empty for its name, and on a toolbar
+    int id = -1;                ///< its key in the main window's action or menu hash
+    const char *slot = nullptr; ///< the main window's, as SLOT() gives it; null if it has none
+    const char *text = "";      ///< what a menu shows; empty for its name, and on a toolbar
     const char *name = nullptr; ///< untranslated; null if it is the sense of its symbol
     const char *hint = nullptr; ///< what the tips add, untranslated, or null
     /**
