@@ -10,7 +10,6 @@ sys.path.insert(0, str(scripts.parent / "tests/e2e"))
 
 from desktop import Desktop  # noqa: E402
 from editor import Editor  # noqa: E402
-from samplepage import glyph, note  # noqa: E402
 from workbench import stop_after  # noqa: E402
 
 PRINT_PREVIEW, TEXT, GRAND_STAFF, TIME_SIGNATURES = 3, 0x100, 0x101, 0x104
@@ -18,6 +17,18 @@ QUARTER_NOTE, TEXT_BLOCK = 0x10B, 0x200
 LEFT, RIGHT, UPPER, LOWER = 90, 650, 120, 216
 # The middle lines of the two staves.
 TREBLE, BASS = UPPER + 16, LOWER - 16
+HALF_STAFF_SPACE = 4
+# From the middle of a note with its stem up to the middle of its head.
+HEAD_BELOW_MIDDLE = 13
+
+
+def glyph(symbol, x, y):
+    return f"tonquill_bitmap {symbol} {x} {y} 0\n"
+
+
+def note(symbol, x, middle, step):
+    """A note so many steps above the staff's middle line."""
+    return glyph(symbol, x, middle - step * HALF_STAFF_SPACE - HEAD_BELOW_MIDDLE)
 
 
 def sheet():

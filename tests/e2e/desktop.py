@@ -6,7 +6,7 @@ import time
 from picture import Picture
 from workbench import Workbench, tool, wait_until
 
-LEFT, MIDDLE, RIGHT = 1, 2, 3
+LEFT, RIGHT = 1, 3
 
 
 class Desktop(Workbench):
