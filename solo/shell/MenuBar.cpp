@@ -6,6 +6,7 @@
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 #include "TonquillTextBlock.h"
+#include "UndoCommands.h"
 #include "ZoomControl.h"
 
 #include <QApplication>
@@ -14,10 +15,12 @@
 #include <QMenu>
 #include <QToolBar>
 
-MenuBar::MenuBar(TonquillMainWin &window, FileCommands &files, ZoomControl &zoom)
+MenuBar::MenuBar(TonquillMainWin &window, FileCommands &files, UndoCommands &undo,
+                 ZoomControl &zoom)
     : QMenuBar(&window)
     , m_window(window)
     , m_files(files)
+    , m_undo(undo)
     , m_zoom(zoom)
 {
     buildFileMenu();
@@ -72,7 +75,7 @@ void MenuBar::buildFileMenu()
     menu->addAction(tr("&Print…"), QKeySequence::Print, &m_window,
                     &TonquillMainWin::OnToolBar1ButtonPrint);
     menu->addSeparator();
-    menu->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &MenuBar::quitRequested);
+    menu->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), &m_window, &QWidget::close);
 }
 
 void MenuBar::fillRecentMenu()
@@ -90,8 +93,8 @@ void MenuBar::fillRecentMenu()
 void MenuBar::buildEditMenu()
 {
     QMenu *menu = addMenu(tr("&Edit"));
-    menu->addAction(tr("&Undo"), QKeySequence::Undo, this, &MenuBar::undoRequested);
-    QAction *redo = menu->addAction(tr("&Redo"), this, &MenuBar::redoRequested);
+    menu->addAction(tr("&Undo"), QKeySequence::Undo, &m_undo, &UndoCommands::undo);
+    QAction *redo = menu->addAction(tr("&Redo"), &m_undo, &UndoCommands::redo);
     redo->setShortcuts(
         {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
     menu->addSeparator();

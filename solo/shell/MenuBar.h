@@ -6,6 +6,7 @@ class FileCommands;
 class QGraphicsItem;
 class TonquillMainWin;
 class TonquillScene;
+class UndoCommands;
 class ZoomControl;
 
 /**
@@ -18,12 +19,7 @@ class MenuBar : public QMenuBar
 
 public:
     /** Works on objects that outlive the menu bar. */
-    MenuBar(TonquillMainWin &window, FileCommands &files, ZoomControl &zoom);
-
-Q_SIGNALS:
-    void undoRequested();
-    void redoRequested();
-    void quitRequested();
+    MenuBar(TonquillMainWin &window, FileCommands &files, UndoCommands &undo, ZoomControl &zoom);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -45,6 +41,7 @@ private:
 
     TonquillMainWin &m_window;
     FileCommands &m_files;
+    UndoCommands &m_undo;
     ZoomControl &m_zoom;
     QMenu *m_recent = nullptr;
     bool m_textWasLeft = false; ///< opening a menu has just ended the editing of a text

@@ -1,7 +1,6 @@
 #include "SoloWindow.h"
 
 #include "MenuBar.h"
-#include "OpenBox.h"
 #include "PlainMessageBox.h"
 
 #include <QAction>
@@ -20,22 +19,19 @@ SoloWindow::SoloWindow(const QString &folder)
     : m_window(TonquillMainWin::HostConnection::Later)
     , m_session(m_window, folder)
     , m_files(m_window, m_session)
+    , m_undo(m_window, m_session)
     , m_zoom(m_window)
     , m_pages(m_window, m_zoom)
 {
-    auto *menus = new MenuBar(m_window, m_files, m_zoom);
-    m_window.setMenuBar(menus);
+    m_window.setMenuBar(new MenuBar(m_window, m_files, m_undo, m_zoom));
     m_window.actions.value(raiseHostId)->setVisible(false);
     m_window.setWindowFlags(m_window.windowFlags() | Qt::WindowMinMaxButtonsHint);
     m_window.installEventFilter(this);
-    connect(menus, &MenuBar::undoRequested, this, &SoloWindow::undo);
-    connect(menus, &MenuBar::redoRequested, this, &SoloWindow::redo);
-    connect(menus, &MenuBar::quitRequested, this, &SoloWindow::quit);
     connect(&m_host, &BuiltInHost::edited, &m_session.edits(), &EditWatcher::checkSoon);
     connect(&m_host, &BuiltInHost::undoRequested, this,
-            [this] { m_errands.add([this] { undo(); }); });
+            [this] { m_errands.add([this] { m_undo.undo(); }); });
     connect(&m_host, &BuiltInHost::redoRequested, this,
-            [this] { m_errands.add([this] { redo(); }); });
+            [this] { m_errands.add([this] { m_undo.redo(); }); });
     connect(&m_host, &BuiltInHost::raiseRequested, this, &SoloWindow::show);
     connect(&m_session, &DocumentSession::changed, this, &SoloWindow::refreshTitle);
     connect(&m_session.edits(), &EditWatcher::documentChanged, &m_pages, &PageControls::refresh);
@@ -90,24 +86,6 @@ void SoloWindow::onJournalFailed(const QString &reason)
     });
 }
 
-void SoloWindow::undo()
-{
-    if (!m_session.edits().undo())
-        sayNothingLeft(QStringLiteral("Undo"), QStringLiteral("Nothing to undo"));
-}
-
-void SoloWindow::redo()
-{
-    if (!m_session.edits().redo())
-        sayNothingLeft(QStringLiteral("Redo"), QStringLiteral("Nothing to redo"));
-}
-
-/** The box that the editor shows when a host says so. */
-void SoloWindow::sayNothingLeft(const QString &title, const QString &text)
-{
-    openBox(m_window, QMessageBox::Warning, title, text);
-}
-
 void SoloWindow::refreshTitle()
 {
     // Doubled, the mark of a change in a file's name is only a part of the name.
@@ -117,6 +95,7 @@ void SoloWindow::refreshTitle()
     m_window.setWindowModified(m_session.isModified());
 }
 
+/** Asks about unsaved changes; finished() is emitted unless the user cancels. */
 void SoloWindow::quit()
 {
     // A second wish to close while the first is being asked about adds no question.

@@ -6,13 +6,12 @@
 #include "FileCommands.h"
 #include "PageControls.h"
 #include "TonquillMainWin.h"
+#include "UndoCommands.h"
 #include "ZoomControl.h"
 
 #include <QObject>
 
 #include <utility>
-
-class MenuBar;
 
 /** What a start of the program wants to have open. */
 struct Beginning
@@ -53,12 +52,6 @@ public:
     /** Offers what a former run left behind, then opens what is wanted. */
     void begin(const Beginning &wanted);
 
-    /** Asks about unsaved changes; then finished() is emitted, unless the user rather goes on. */
-    void quit();
-
-    void undo();
-    void redo();
-
 Q_SIGNALS:
     /** The window is on the screen for the first time, where the desktop has put it. */
     void appeared();
@@ -70,7 +63,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void sayNothingLeft(const QString &title, const QString &text);
+    void quit();
     void refreshTitle();
     void onJournalFailed(const QString &reason);
 
@@ -78,6 +71,7 @@ private:
     TonquillMainWin m_window;
     DocumentSession m_session;
     FileCommands m_files;
+    UndoCommands m_undo;
     ZoomControl m_zoom;
     PageControls m_pages;
     BuiltInHost m_host;
