@@ -22,7 +22,7 @@
 
 namespace
 {
-/** Pictures in an SVG file are as fine as this many dots per inch make them. */
+/** The resolution of pictures in an SVG file. */
 constexpr int svgDotsPerInch = 600;
 
 /** The resolution that texts are laid out for. */
@@ -31,16 +31,17 @@ constexpr int screenDotsPerInch = 96;
 constexpr int fewestDots = 10;
 constexpr int mostDots = 2400;
 
-/** Qt can paint on nothing that is longer. */
+/** The largest side in dots that QPainter supports. */
 constexpr int longestPicture = 32767;
 
-// A4 at the finest resolution, which is the user's wish. The size of the sheet is the document's:
-// beyond A0 a stranger's document must not cost that much.
+// Enough for A4 at the finest resolution, which the user chooses. The size of the sheet comes from
+// the document, so sheets beyond A0 get a lower limit: an untrusted document must not cost that
+// much.
 constexpr qint64 mostPixels = 600'000'000;
 constexpr qint64 mostPixelsBeyondA0 = 16'000'000;
 constexpr qint64 squareInchesOfA0 = 1550;
 
-/** True for a picture of dots that does not cost more memory than it may. */
+/** True if a picture of this size in dots stays within the limits. */
 bool isPossible(const QSize &size, int dotsPerInch)
 {
     const qint64 pixels = qint64(size.width()) * size.height();
@@ -50,7 +51,7 @@ bool isPossible(const QSize &size, int dotsPerInch)
            pixels <= (isBeyondA0 ? mostPixelsBeyondA0 : mostPixels);
 }
 
-/** The finished drawing, which says how large its sheet is, for Qt goes by another resolution. */
+/** The finished drawing with the sheet's size, which Qt writes for another resolution. */
 QByteArray finishedWithSheetSize(const QByteArray &svg, const QSize &dots)
 {
     static const QRegularExpression written(
@@ -61,7 +62,7 @@ QByteArray finishedWithSheetSize(const QByteArray &svg, const QSize &dots)
     return DrawingText::finished(QString::fromUtf8(svg)).replace(written, right).toUtf8();
 }
 
-/** A drawing that brings along the notation font, which others do not have. */
+/** Embeds the notation font, which is not installed elsewhere. */
 QByteArray withNotationFont(QByteArray svg)
 {
     const QByteArray place("<defs>");
@@ -81,11 +82,13 @@ QString Exporter::write(const QString &path, const ExportOptions &options)
         kind != QLatin1String("svg"))
         return tr("%1: the name must end in .pdf, .png or .svg").arg(path);
     if (options.page < 1 || options.page > m_window.pageCount)
-        return tr("there is no page %1, only 1 to %2").arg(options.page).arg(m_window.pageCount);
+        return tr("there is no page %1; the document has pages 1 to %2")
+            .arg(options.page)
+            .arg(m_window.pageCount);
     if (options.dotsPerInch < fewestDots || options.dotsPerInch > mostDots)
         return tr("the resolution must be between %1 and %2").arg(fewestDots).arg(mostDots);
     if (FileStamp::at(path).isSameFileAs(FileStamp::at(options.document)))
-        return tr("%1: this is the document itself").arg(path);
+        return tr("%1: the document itself cannot be overwritten").arg(path);
     const Contents made = contents(kind, options);
     const QString error = made.bytes.isEmpty() ? made.error : AtomicFile::write(path, made.bytes);
     return error.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(path, error);
@@ -99,14 +102,15 @@ Exporter::Contents Exporter::contents(const QString &kind, const ExportOptions &
     return Contents{bytes, tr("The picture would be too large. A lower resolution may help.")};
 }
 
-/** A printer writes a file of its own, so that is made aside and put in place when it is whole. */
+/** QPrinter writes a file, so it writes a temporary one, whose bytes are written atomically. */
 Exporter::Contents Exporter::pdf()
 {
     const QTemporaryDir folder;
-    const Contents failed{{},
-                          tr("The temporary folder %1 does not take the pages. Is the disk full?")
-                              .arg(QDir::toNativeSeparators(QDir::tempPath()))};
-    // Without a file's name the pages would go to the user's own printer.
+    const Contents failed{
+        {},
+        tr("The pages cannot be written to the temporary folder %1. Is the disk full?")
+            .arg(QDir::toNativeSeparators(QDir::tempPath()))};
+    // Without a file name QPrinter would print on the default printer.
     if (!folder.isValid())
         return failed;
     const QString path = folder.filePath(QStringLiteral("export.pdf"));
@@ -153,7 +157,7 @@ QByteArray Exporter::svg(const ExportOptions &options)
     QBuffer buffer;
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
-    // Letters are sized by this; pictures get as fine as the drawing is large.
+    // This determines the size of text; the resolution of pictures follows from setSize().
     generator.setResolution(screenDotsPerInch);
     generator.setSize(page.size());
     generator.setViewBox(QRect(QPoint(0, 0), page.size()));

@@ -6,16 +6,16 @@
 
 class TonquillMainWin;
 
-/** What of the document goes into a picture; a PDF file always has all pages. */
+/** Options for pictures; a PDF file always has all pages. */
 struct ExportOptions
 {
     int page = 1; ///< counted from 1
     int dotsPerInch = 150;
-    /** The file that is exported, which must not be written over; or empty. */
+    /** The exported document's own file, which must not be overwritten; may be empty. */
     QString document = QString();
 };
 
-/** Writes the window's document as PDF, PNG or SVG, told by the file's suffix. */
+/** Writes the window's document as PDF, PNG or SVG, depending on the file's suffix. */
 class Exporter
 {
     Q_DECLARE_TR_FUNCTIONS(Exporter)
@@ -26,13 +26,13 @@ public:
     {}
 
     /**
-     * Writes the file, at once or not at all. The answer says what went wrong; it is empty if
-     * nothing did, and also if the user did not wait for the end, which writes nothing.
+     * Writes the file atomically. Returns an empty string on success, else the error. If the user
+     * cancels, nothing is written and the string is empty, too.
      */
     QString write(const QString &path, const ExportOptions &options);
 
 private:
-    /** The bytes of a file; where there are none, what went wrong, if anything did. */
+    /** The bytes of a file; if there are none, the error, or empty if the user cancelled. */
     struct Contents
     {
         QByteArray bytes;

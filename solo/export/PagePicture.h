@@ -9,13 +9,14 @@ class TonquillMainWin;
 class PagePicture
 {
 public:
-    /** Page `page`, counted from 1, of the window's document at so many dots per inch. */
+    /** Page `page`, counted from 1, of the window's document. The window must outlive the object.
+     */
     PagePicture(const TonquillMainWin &window, int page, int dotsPerInch);
 
     /** The sheet, in dots. */
     QSize size() const;
 
-    /** Draws the sheet from (0, 0) on. Nothing but the page is drawn: no selection, no anchors. */
+    /** Draws the sheet with its top-left corner at (0, 0), without selection and anchors. */
     void paint(QPainter &painter) const;
 
 private:

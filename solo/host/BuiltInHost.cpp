@@ -15,8 +15,8 @@ namespace
 constexpr int probeTime = 500; // milliseconds
 
 /**
- * True if nothing but a socket of this user's would be replaced at `path`. Links are replaced, not
- * followed; what another user has put there stays.
+ * True if `path` is free or holds a socket or link of this user. Links are replaced, not followed;
+ * other users' files are never replaced.
  */
 bool isFreeForSocket(const QString &path)
 {
@@ -27,7 +27,7 @@ bool isFreeForSocket(const QString &path)
     return info.st_uid == geteuid() && (S_ISSOCK(info.st_mode) || S_ISLNK(info.st_mode));
 }
 
-/** True if the other end of the connection is this process, or the system does not tell. */
+/** True if the peer is this process, or if the system does not tell. */
 bool isFromThisProcess(const QLocalSocket &socket)
 {
     const std::optional<SocketPeer> peer = SocketPeer::of(socket);
@@ -47,7 +47,7 @@ bool BuiltInHost::isHostListening()
     probe.connectToServer(HostMessages::serverName);
     if (probe.waitForConnected(probeTime))
         return SocketPeer::isTrusted(probe);
-    // A busy host is one, too; a socket that is another user's own is none of ours.
+    // A busy host counts; a socket that only another user may access does not.
     return probe.error() != QLocalSocket::ServerNotFoundError &&
            probe.error() != QLocalSocket::ConnectionRefusedError &&
            probe.error() != QLocalSocket::SocketAccessError;
@@ -57,7 +57,7 @@ QString BuiltInHost::listen()
 {
     const QString path = QDir(QDir::tempPath()).filePath(HostMessages::serverName);
     if (!isFreeForSocket(path))
-        return tr("%1 is in the way.").arg(path);
+        return tr("%1 exists and cannot be replaced.").arg(path);
     QLocalServer::removeServer(HostMessages::serverName);
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     return m_server.listen(HostMessages::serverName) ? QString() : m_server.errorString();

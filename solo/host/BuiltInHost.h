@@ -9,9 +9,9 @@
 class QLocalSocket;
 
 /**
- * The host of the editor in the same process. It listens where a real host would and hears of
- * edits and commands by the editor's own messages; editors of other processes are turned away.
- * It answers nothing: two answers that the editor read at once would count as a document.
+ * The editor's host in the same process. It listens on the socket of a real host and receives edits
+ * and commands as the editor's messages; editors of other processes are rejected. It never replies,
+ * since two replies that the editor reads in one piece would count as a document.
  */
 class BuiltInHost : public QObject
 {
@@ -20,17 +20,17 @@ class BuiltInHost : public QObject
 public:
     explicit BuiltInHost(QObject *parent = nullptr);
 
-    /** True if a host of this user's is listening already, or may be. */
+    /** True if a host of this user is already listening, or may be. */
     static bool isHostListening();
 
     /**
-     * Begins to listen, in the place of the socket that a crashed program left behind. Callers
-     * make sure that no host is listening. The answer is empty, or says what is in the way.
+     * Starts to listen, replacing the socket of a crashed process. No host may be listening.
+     * Returns an empty string on success, else the error.
      */
     QString listen();
 
 Q_SIGNALS:
-    /** The editor finished an edit. */
+    /** The editor has finished an edit. */
     void edited();
     void raiseRequested();
     void undoRequested();

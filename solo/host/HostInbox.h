@@ -4,16 +4,16 @@
 #include <QList>
 
 /**
- * What the editor writes to its host, taken apart. Messages have no end mark and may run together,
- * so a document is followed line by line up to where the next message begins. Of a document only
- * that one came is told: it says that an edit is complete, and the scene says which.
+ * Splits what the editor writes to its host into messages. They have no end mark and may run
+ * together, so a document is read line by line up to the start of the next message. Its content is
+ * dropped: a document only says that an edit is complete, and the scene has its result.
  */
 class HostInbox
 {
 public:
     enum class Message { Document, Raise, Undo, Redo };
 
-    /** Adds what was read; the answer is the messages that it made known. */
+    /** Adds bytes and returns the messages that they complete. */
     QList<Message> append(const QByteArray &bytes);
 
 private:

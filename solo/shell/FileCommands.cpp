@@ -58,9 +58,8 @@ bool FileCommands::mayLeave()
     m_session.edits().check();
     if (!m_session.isModified())
         return true;
-    PlainMessageBox box(QMessageBox::Question,
-                        tr("Save the changes to “%1”?").arg(m_session.name()),
-                        tr("Without saving they are lost."),
+    PlainMessageBox box(QMessageBox::Question, tr("Save changes to “%1”?").arg(m_session.name()),
+                        tr("Unsaved changes will be lost."),
                         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &m_window);
     box.setDefaultButton(QMessageBox::Save);
     const int answer = box.exec();
@@ -87,7 +86,7 @@ void FileCommands::openFile(const QString &path)
     DocumentFile::Reading reading = DocumentFile::load(path, m_session.defaultPaper());
     if (!isDocument(path, reading) || !mayLeave())
         return;
-    // The unsaved changes may have been saved to this very file.
+    // mayLeave() may have just saved to this very file.
     if (reading.stamp.changeAt(path) != FileStamp::Change::None)
         reading = DocumentFile::load(path, m_session.defaultPaper());
     showFile(path, reading);
@@ -107,7 +106,7 @@ bool FileCommands::showFile(const QString &path, const DocumentFile::Reading &re
     return true;
 }
 
-/** Shows the open document's file as another program left it. */
+/** Reloads the open document's file after another program has changed it. */
 bool FileCommands::reload()
 {
     const QString path = m_session.path();
@@ -121,7 +120,7 @@ void FileCommands::openCopy(const QString &path)
         m_session.showUnnamed(reading.document, QFileInfo(path).fileName(), false);
 }
 
-/** Says why there is nothing to show of a file, if so. */
+/** Returns false, after telling the user why, if the file cannot be opened at all. */
 bool FileCommands::isDocument(const QString &path, const DocumentFile::Reading &reading)
 {
     if (!reading.isDocument)
@@ -131,20 +130,18 @@ bool FileCommands::isDocument(const QString &path, const DocumentFile::Reading &
     return reading.isDocument;
 }
 
-/** Offers what can be read of a document; nothing is left out unsaid. */
+/** Asks whether to open a document that can only be read in part. */
 bool FileCommands::mayShow(const QString &path, const DocumentFile::Reading &reading)
 {
     if (reading.problems.isEmpty())
         return true;
     const QString shown = QDir::toNativeSeparators(path);
     const QString details =
-        tr("%1\n\nShow the rest, %2 items? The file stays as it is until "
-           "you save.")
+        tr("%1\n\nOpen the rest (%2 items)? The file is not changed until you save.")
             .arg(reading.problemText(), QString::number(reading.document.items.size()));
-    PlainMessageBox box(QMessageBox::Warning, tr("“%1” can only be read in part.").arg(shown),
+    PlainMessageBox box(QMessageBox::Warning, tr("Only part of “%1” can be read.").arg(shown),
                         details, QMessageBox::Cancel, &m_window);
-    const QAbstractButton *show =
-        box.addButton(tr("Show What Can Be Read"), QMessageBox::AcceptRole);
+    const QAbstractButton *show = box.addButton(tr("Open Anyway"), QMessageBox::AcceptRole);
     box.exec();
     return box.clickedButton() == show;
 }
@@ -158,7 +155,7 @@ bool FileCommands::save()
     const Answer answer = change == FileStamp::Change::None
                               ? Answer::Overwrite
                               : OutsideChange(m_window, m_session, change).askBeforeSaving();
-    // Until it is saved, what the window shows is in no file.
+    // Until it is saved, no file holds what the window shows.
     if (change != FileStamp::Change::None && !(answer == Answer::Reload && reload()))
         m_session.markUnsaved();
     return (answer == Answer::Overwrite && saveTo(m_session.path())) ||
@@ -188,14 +185,14 @@ bool FileCommands::saveTo(const QString &path)
     const QString error = m_session.saveAs(path);
     if (!error.isEmpty()) {
         PlainMessageBox::warn(
-            &m_window, tr("“%1” could not be saved.").arg(QDir::toNativeSeparators(path)), error);
+            &m_window, tr("“%1” cannot be saved.").arg(QDir::toNativeSeparators(path)), error);
         return false;
     }
     remember(path);
     return true;
 }
 
-/** Beside the document's file; a document without one belongs with the user's documents. */
+/** In the folder of the document's file or, if it has none, the user's documents folder. */
 QString FileCommands::suggestedPath(const QString &suffix) const
 {
     const QString source = m_session.source();
@@ -217,7 +214,7 @@ void FileCommands::exportPdf()
     options.document = m_session.source();
     const QString error = Exporter(m_window).write(path, options);
     if (!error.isEmpty())
-        PlainMessageBox::warn(&m_window, tr("The PDF could not be written."), error);
+        PlainMessageBox::warn(&m_window, tr("The PDF cannot be written."), error);
 }
 
 bool FileCommands::offerRecovery()

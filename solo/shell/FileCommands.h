@@ -8,7 +8,7 @@
 class DocumentSession;
 class TonquillMainWin;
 
-/** The File menu's commands, with their questions to the user. */
+/** The commands of the File menu, including their dialogs. */
 class FileCommands : public QObject
 {
     Q_OBJECT
@@ -16,27 +16,27 @@ class FileCommands : public QObject
 public:
     FileCommands(TonquillMainWin &window, DocumentSession &session);
 
-    /** Files that were opened or saved, the latest first. */
+    /** Files that were opened or saved, the most recent first. */
     static QStringList recentFiles();
 
-    /** Offers what a former run left behind, if anything; true if it is shown now. */
+    /** Offers to recover unsaved changes of a previous run, if any; true if they are shown now. */
     bool offerRecovery();
 
-    /** Opens a copy of a file, to try things out on. */
+    /** Opens a file as an untitled copy. */
     void openCopy(const QString &path);
 
-    /** Asks what to do with unsaved changes; false if the user rather goes on. */
+    /** Asks what to do with unsaved changes; returns false if the user cancels. */
     bool mayLeave();
 
-    /** Tells if another program has changed the document's file, once for each change. */
+    /** Reports changes of the document's file by other programs, each of them once. */
     void lookForOutsideChange();
 
 public Q_SLOTS:
     void makeNew();
     void open();
-    /** Opens this file, after asking about unsaved changes. */
+    /** Opens `path`, after asking about unsaved changes. */
     void openFile(const QString &path);
-    /** Saves the document; false if the user gave up. */
+    /** Saves the document; returns false if it failed or the user cancelled. */
     bool save();
     bool saveAs();
     void exportPdf();

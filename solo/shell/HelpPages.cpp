@@ -43,23 +43,22 @@ QString HelpPages::keysAndMouse()
 {
     return tableHead(tr("Mouse"), tr("Effect")) +
            row(tr("A palette button, then a click"), tr("places an item on the page")) +
-           row(tr("A second click"), tr("fixes the other end of a staff, tie, bracket or line")) +
-           row(tr("Right button held while placing"), tr("turns a note over")) +
-           row(tr("Drag on empty paper"), tr("selects what lies inside")) +
+           row(tr("A second click"), tr("places the other end of a staff, tie, bracket or line")) +
+           row(tr("Right button held while placing"), tr("flips a note")) +
+           row(tr("Drag on empty paper"), tr("selects the items inside")) +
            row(tr("Drag an item"), tr("moves the selection")) +
            row(tr("Drag a green anchor"), tr("stretches a figure or a text block")) +
-           row(tr("Double click a text block"), tr("types in it")) +
-           row(tr("Right click a text"), tr("changes its words, font, colour and angle")) +
-           row(tr("Right click a text block"), tr("changes its size of type")) +
-           row(tr("Ctrl and the wheel"), tr("zooms at the pointer")) + QStringLiteral("\n\n") +
-           tableHead(tr("Key"), tr("Effect")) +
+           row(tr("Double-click a text block"), tr("edits its text")) +
+           row(tr("Right-click a text"), tr("changes its text, font, colour and angle")) +
+           row(tr("Right-click a text block"), tr("changes its font size")) +
+           row(tr("Ctrl and the mouse wheel"), tr("zooms at the pointer")) +
+           QStringLiteral("\n\n") + tableHead(tr("Key"), tr("Effect")) +
            row(tr("Ctrl, held"), tr("the note buttons insert rests")) +
-           row(tr("Arrow keys"), tr("move the selection by a little")) +
+           row(tr("Arrow keys"), tr("nudge the selection")) +
            row(tr("Delete, Backspace"), tr("delete the selection")) +
-           row(tr("Ctrl+C, Ctrl+V"),
-               tr("copy the selection; paste everything that was copied so far")) +
-           row(tr("Space"), tr("one more item like the last one")) +
-           row(tr("F5"), tr("quick text: letters typed on the page open a text block")) +
+           row(tr("Ctrl+C, Ctrl+V"), tr("copy the selection; paste everything copied so far")) +
+           row(tr("Space"), tr("adds another item like the last one")) +
+           row(tr("F5"), tr("quick text on or off: typing on the page opens a text block")) +
            row(tr("Ctrl+Z, Ctrl+Shift+Z"), tr("undo and redo")) +
            row(tr("Ctrl+A"), tr("select everything")) +
            row(tr("Ctrl++, Ctrl+-, Ctrl+0, Ctrl+9"), tr("zoom in, zoom out, 100 %, fit width")) +
@@ -86,7 +85,7 @@ void HelpPages::showKeysAndMouse(QWidget &window)
 
 void HelpPages::showMusicaLetters(QWidget &window)
 {
-    showPage(window, tr("The Musica Letters"), musicaLetters());
+    showPage(window, tr("Letters of the Musica Font"), musicaLetters());
 }
 
 void HelpPages::showAbout(QWidget &window)

@@ -9,9 +9,9 @@ struct PaletteEntry;
 struct PaletteToolBar;
 
 /**
- * The palette as a menu, so that every command can be reached with the keyboard and by its name.
- * It is made from the palette's own table; an entry triggers the palette's action,
- * but notes and rests have entries of their own, whether Ctrl is held or not.
+ * The palette as a menu, so that every command can be reached by keyboard and by name. It is built
+ * from the palette's table, and an entry triggers the palette's action, except for notes and rests,
+ * which have separate entries that do not depend on Ctrl.
  */
 class InsertMenu
 {

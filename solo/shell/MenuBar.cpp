@@ -31,23 +31,23 @@ MenuBar::MenuBar(TonquillMainWin &window, FileCommands &files, UndoCommands &und
     connect(window.scene, &QGraphicsScene::focusItemChanged, this, &MenuBar::onFocusItemChanged);
     for (const QAction *title : actions()) {
         title->menu()->installEventFilter(this);
-        // Not before it is known whether the bar's next menu opens instead.
+        // Queued: the next menu of the bar may open instead.
         connect(title->menu(), &QMenu::aboutToHide, this, &MenuBar::forgetText,
                 Qt::QueuedConnection);
     }
 }
 
-/** Escape closes a menu and leaves the bar, where Qt would keep the keyboard without showing it. */
+/** Escape also leaves the menu bar, where Qt would invisibly keep the keyboard focus. */
 bool MenuBar::eventFilter(QObject *, QEvent *event)
 {
-    // Once the menu has handled the key.
+    // Queued, so that the menu handles the key first.
     if (event->type() == QEvent::KeyPress &&
         static_cast<const QKeyEvent *>(event)->key() == Qt::Key_Escape)
         QMetaObject::invokeMethod(this, &MenuBar::leave, Qt::QueuedConnection);
     return false;
 }
 
-/** Gives the keyboard back to whatever had it before the bar, unless only a submenu was closed. */
+/** Returns the focus to where it was before, unless only a submenu was closed. */
 void MenuBar::leave()
 {
     if (!hasFocus() || QApplication::activePopupWidget())
@@ -107,8 +107,8 @@ void MenuBar::buildEditMenu()
     };
     menu->addSeparator();
     menu->addAction(tr("Select &All"), QKeySequence::SelectAll, this, &MenuBar::selectAll);
-    // Meant for a part of a text, they would act on whole items. A press on the bar has ended the
-    // editing by now, and so has another menu; the key of this menu only does so after this.
+    // While a text is edited these would act on whole items instead of the text. A click on the bar
+    // or another menu has already ended the editing here; this menu's mnemonic ends it only later.
     connect(menu, &QMenu::aboutToShow, this, [this, itemCommands] {
         const auto *text = qgraphicsitem_cast<TonquillTextBlock *>(m_window.scene->focusItem());
         const bool isTextMeant = m_textWasLeft || (text && TonquillTextBlock::isEdited(*text));
@@ -182,7 +182,7 @@ void MenuBar::buildHelpMenu()
     QMenu *menu = addMenu(tr("&Help"));
     menu->addAction(tr("&Keys and Mouse"), QKeySequence(Qt::Key_F1), &m_window,
                     [this] { HelpPages::showKeysAndMouse(m_window); });
-    menu->addAction(tr("The &Musica Letters"), &m_window,
+    menu->addAction(tr("Letters of the &Musica Font"), &m_window,
                     [this] { HelpPages::showMusicaLetters(m_window); });
     menu->addAction(tr("&About Tonquill"), &m_window, [this] { HelpPages::showAbout(m_window); });
 }

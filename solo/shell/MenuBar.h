@@ -10,15 +10,15 @@ class UndoCommands;
 class ZoomControl;
 
 /**
- * The menus that are laid round the editor's window. Entries for what the editor's own keys do
- * show the key and do not take it: the editor acts on their release, and would act twice.
+ * The menus of the editor's window. Entries for what the editor's own keys do show the key but are
+ * not bound to it: the editor acts on the key's release and would act twice.
  */
 class MenuBar : public QMenuBar
 {
     Q_OBJECT
 
 public:
-    /** Works on objects that outlive the menu bar. */
+    /** All arguments must outlive the menu bar. */
     MenuBar(TonquillMainWin &window, FileCommands &files, UndoCommands &undo, ZoomControl &zoom);
 
 protected:
@@ -44,5 +44,5 @@ private:
     UndoCommands &m_undo;
     ZoomControl &m_zoom;
     QMenu *m_recent = nullptr;
-    bool m_textWasLeft = false; ///< opening a menu has just ended the editing of a text
+    bool m_textWasLeft = false; ///< opening a menu has just ended text editing
 };

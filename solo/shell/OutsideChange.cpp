@@ -17,18 +17,18 @@ QString OutsideChange::whatHappened() const
 OutsideChange::Answer OutsideChange::askBeforeSaving() const
 {
     const bool isRemoved = m_change == FileStamp::Change::Removed;
-    PlainMessageBox box(QMessageBox::Warning, whatHappened(),
-                        isRemoved
-                            ? tr("Saving writes it anew.")
-                            : tr("Overwriting loses what that program wrote. Reloading loses what "
-                                 "you have changed here."),
-                        QMessageBox::Cancel, &m_window);
+    PlainMessageBox box(
+        QMessageBox::Warning, whatHappened(),
+        isRemoved
+            ? tr("Saving will create it again.")
+            : tr("Overwriting discards the other program's changes. Reloading discards yours."),
+        QMessageBox::Cancel, &m_window);
     const QAbstractButton *overwrite =
         box.addButton(isRemoved ? tr("Save") : tr("Overwrite"), QMessageBox::DestructiveRole);
     QPushButton *elsewhere = box.addButton(tr("Save As…"), QMessageBox::AcceptRole);
     const QAbstractButton *reload =
         isRemoved ? nullptr : box.addButton(tr("Reload"), QMessageBox::DestructiveRole);
-    // Nothing is lost by Enter.
+    // Pressing Enter must not lose anything.
     box.setDefaultButton(elsewhere);
     box.exec();
     const QAbstractButton *clicked = box.clickedButton();
@@ -43,16 +43,15 @@ bool OutsideChange::tellAndOfferReload() const
 {
     if (m_change == FileStamp::Change::Removed) {
         PlainMessageBox::warn(&m_window, whatHappened(),
-                              tr("What the window shows is no longer saved anywhere."));
+                              tr("The document in this window is no longer saved anywhere."));
         return false;
     }
     PlainMessageBox box(QMessageBox::Warning, whatHappened(),
-                        m_session.isModified()
-                            ? tr("Reload it, and lose what you have changed here?")
-                            : tr("Reload it?"),
+                        m_session.isModified() ? tr("Reload it and lose your changes?")
+                                               : tr("Reload it?"),
                         QMessageBox::NoButton, &m_window);
     QPushButton *reload = box.addButton(tr("Reload"), QMessageBox::AcceptRole);
-    QPushButton *keep = box.addButton(tr("Keep What Is Here"), QMessageBox::RejectRole);
+    QPushButton *keep = box.addButton(tr("Keep This Version"), QMessageBox::RejectRole);
     box.setDefaultButton(m_session.isModified() ? keep : reload);
     box.setEscapeButton(keep);
     box.exec();

@@ -7,7 +7,7 @@
 class DocumentSession;
 class QWidget;
 
-/** The questions about a document's file that another program has changed or removed. */
+/** The dialogs about a document's file that another program has changed or removed. */
 class OutsideChange
 {
     Q_DECLARE_TR_FUNCTIONS(OutsideChange)
@@ -21,10 +21,10 @@ public:
         , m_change(change)
     {}
 
-    /** Asks what to do instead of simply saving. */
+    /** Asks whether to overwrite the file, save elsewhere, reload or cancel. */
     Answer askBeforeSaving() const;
 
-    /** Tells of the change; true if the user wants to see the file as it is now. */
+    /** Reports the change; returns true if the user wants to reload the file. */
     bool tellAndOfferReload() const;
 
 private:

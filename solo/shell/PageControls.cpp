@@ -16,7 +16,7 @@
 
 namespace
 {
-/** The least that "Goto Page" takes; more if there are more pages. */
+/** The smallest maximum of "Goto Page"; documents with more pages raise it. */
 constexpr int leastMaximum = 99;
 } // namespace
 
@@ -93,7 +93,7 @@ void PageControls::showInsertMenu()
 
 void PageControls::deletePage()
 {
-    // The whole pitch: two gaps lower, the last lines of a page would fall out of its frame.
+    // The whole pitch, so that the following items keep their places on their pages.
     m_window.scene->deletePage(currentPage(), m_window.scene->pagePitch());
     refresh();
 }
@@ -104,15 +104,15 @@ void PageControls::makeRoom()
     refresh();
 }
 
-/** Lets the view go down to where the last page is at its top, at this many pixels a scene unit. */
+/** Lets the view scroll the last page to its top at `scale` pixels per scene unit. */
 void PageControls::makeRoomAt(double scale)
 {
     const TonquillScene &scene = *m_window.scene;
     QRectF reach = scene.sceneRect();
-    // A single page is at the top anyway, and nothing is to scroll if the window shows all of it.
+    // A single page is always at the top, and a window that shows all of it must not scroll.
     if (m_window.pageCount > 1) {
         const double lastTop = scene.getCoordByPageNum(m_window.pageCount);
-        // Without a scroll bar below, for Qt may take that away later.
+        // Without the horizontal scroll bar, which Qt may hide later.
         const double shown = m_view.maximumViewportSize().height() / scale;
         reach.setBottom(qMax(reach.bottom(), lastTop + shown));
     }
@@ -121,7 +121,7 @@ void PageControls::makeRoomAt(double scale)
 
 bool PageControls::eventFilter(QObject *, QEvent *event)
 {
-    // Not within the event: Qt may be in the middle of setting the scroll bars for another height.
+    // Queued, since Qt may be in the middle of updating the scroll bars for the new height.
     if (event->type() == QEvent::Resize)
         QMetaObject::invokeMethod(this, &PageControls::makeRoom, Qt::QueuedConnection);
     return false;

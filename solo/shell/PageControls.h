@@ -10,25 +10,25 @@ class TonquillView;
 class ZoomControl;
 
 /**
- * What the controls under the view do in the program of its own, in place of the editor's own
- * answers: they name the page that they mean, and going to a page brings it to the top of the view.
+ * Replaces what the page controls below the view do: they name the page that they act on, and going
+ * to a page scrolls it to the top of the view.
  *
- * The view gets as much room below the last page as that takes. The scene keeps its rectangle, so
- * nothing of the room is printed or exported.
+ * For that the view gets extra room below the last page. The scene rectangle stays the same, so the
+ * room is neither printed nor exported.
  */
 class PageControls : public QObject
 {
     Q_OBJECT
 
 public:
-    /** Takes the controls of `window` over. Both arguments outlive the object. */
+    /** Takes over the controls of `window`. Both arguments must outlive the object. */
     PageControls(TonquillMainWin &window, const ZoomControl &zoom);
 
     /** The page at the top of the view, from 1 to the number of pages. */
     int currentPage() const;
 
 public Q_SLOTS:
-    /** Names the current page wherever it is shown. */
+    /** Updates the current page wherever it is shown. */
     void refresh();
 
 protected:

@@ -9,7 +9,7 @@ PlainMessageBox::PlainMessageBox(Icon icon, const QString &text, const QString &
     setTextFormat(Qt::PlainText);
     setText(text);
     setInformativeText(details);
-    // The format of the text is not that of the details.
+    // setTextFormat() does not apply to the informative text.
     if (auto *label = findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel")))
         label->setTextFormat(Qt::PlainText);
 }

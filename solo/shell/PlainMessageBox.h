@@ -3,16 +3,16 @@
 #include <QMessageBox>
 
 /**
- * A box whose texts are shown as they stand. Left to itself Qt takes a text with "<" for
- * a page of the web, with pictures and links; but so may a file be called.
+ * A message box with plain text. By default Qt treats a text with "<" as HTML with pictures and
+ * links, but file names may contain that character, too.
  */
 class PlainMessageBox : public QMessageBox
 {
 public:
-    /** `details` stand below `text`, in smaller print; they may be empty. */
+    /** `details` are shown below `text` in smaller type; they may be empty. */
     PlainMessageBox(Icon icon, const QString &text, const QString &details, StandardButtons buttons,
                     QWidget *parent = nullptr);
 
-    /** Shows a warning until it is closed; `parent` may be null. */
+    /** Shows a modal warning; `parent` may be null. */
     static void warn(QWidget *parent, const QString &text, const QString &details);
 };

@@ -16,11 +16,11 @@ bool RecoveryOffer::make()
             tellUnreadable();
         return false;
     }
-    // Made before the question: what is left out is never on its way out without a copy.
+    // Copied before the question, so that what cannot be read is never lost.
     const QString copy = found->problems.isEmpty() ? QString() : journal.keepCopy();
     const bool isWanted = wants(*found, copy);
     if (isWanted) {
-        // What could be kept nowhere else is not written over.
+        // A damaged journal that could not be copied must not be overwritten.
         if (found->problems.isEmpty() || !copy.isEmpty())
             journal.takeOver();
         m_session.showRecovered(*found);
@@ -31,29 +31,29 @@ bool RecoveryOffer::make()
     return isWanted;
 }
 
-/** What is said above the name of a journal of which there is no copy. */
+/** The text above the name of a journal that could not be copied. */
 QString RecoveryOffer::untilMoved()
 {
-    return tr("Until this file is moved away, no other changes are kept for recovery:");
+    return tr("Until this file is moved, no further changes can be recovered after a crash:");
 }
 
 void RecoveryOffer::tellUnreadable()
 {
     const QString copy = m_session.journal().keepCopy();
-    const QString details = copy.isEmpty() ? untilMoved() : tr("It is kept in this file:");
+    const QString details = copy.isEmpty() ? untilMoved() : tr("They are kept in this file:");
     const QString file = copy.isEmpty() ? m_session.journal().file() : copy;
-    PlainMessageBox::warn(&m_window,
-                          tr("Tonquill ended unexpectedly, and what was not saved cannot be read."),
-                          details + u'\n' + QDir::toNativeSeparators(file));
+    PlainMessageBox::warn(
+        &m_window, tr("Tonquill ended unexpectedly, and the unsaved changes cannot be read."),
+        details + u'\n' + QDir::toNativeSeparators(file));
     if (!copy.isEmpty())
         m_session.journal().takeOver();
 }
 
 bool RecoveryOffer::wants(const RecoveryJournal::Found &found, const QString &copy)
 {
-    const QString name = found.path.isEmpty() ? tr("a document without a name")
-                                              : QDir::toNativeSeparators(found.path);
-    const QString details = tr("%1, %2.\nThe file itself stays as it is until you save.")
+    const QString name =
+        found.path.isEmpty() ? tr("an untitled document") : QDir::toNativeSeparators(found.path);
+    const QString details = tr("%1, %2.\nThe file itself is not changed until you save.")
                                 .arg(name, QLocale().toString(found.time, QLocale::ShortFormat));
     PlainMessageBox box(QMessageBox::Question,
                         tr("Tonquill ended unexpectedly. Recover the unsaved changes?"),
@@ -66,7 +66,7 @@ bool RecoveryOffer::wants(const RecoveryJournal::Found &found, const QString &co
     return box.clickedButton() == recover;
 }
 
-/** What the details say about a journal that can only be read in part. */
+/** The details about a journal that can only be read in part; empty for any other. */
 QString RecoveryOffer::lossesOf(const RecoveryJournal::Found &found, const QString &copy) const
 {
     if (found.problems.isEmpty())
@@ -74,7 +74,7 @@ QString RecoveryOffer::lossesOf(const RecoveryJournal::Found &found, const QStri
     QString text =
         QStringLiteral("\n\n") + tr("Not everything can be read:") + u'\n' + found.problems;
     if (!copy.isEmpty())
-        return text + QStringLiteral("\n\n") + tr("All that was kept is in this file:") + u'\n' +
+        return text + QStringLiteral("\n\n") + tr("Everything is kept in this file:") + u'\n' +
                QDir::toNativeSeparators(copy);
     return text + QStringLiteral("\n\n") + untilMoved() + u'\n' +
            QDir::toNativeSeparators(m_session.journal().file());

@@ -7,7 +7,7 @@
 class DocumentSession;
 class QWidget;
 
-/** Offers at the start what a run that ended unexpectedly left behind. */
+/** Offers to recover unsaved changes of a run that ended unexpectedly. */
 class RecoveryOffer
 {
     Q_DECLARE_TR_FUNCTIONS(RecoveryOffer)
@@ -18,7 +18,7 @@ public:
         , m_session(session)
     {}
 
-    /** Asks what becomes of it, if there is anything. True if it is shown now. */
+    /** Asks the user if there is anything to recover. Returns true if it is shown now. */
     bool make();
 
 private:

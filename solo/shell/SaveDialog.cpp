@@ -11,7 +11,7 @@ QString SaveDialog::ask(QWidget &window, const QString &suggested) const
 {
     QFileDialog dialog(&window, m_title, QFileInfo(suggested).path(), m_filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    // Before the dialog asks whether to replace a file it completes the name.
+    // The dialog completes the name before it asks whether to replace a file.
     dialog.setDefaultSuffix(m_suffix);
     dialog.selectFile(suggested);
     if (dialog.exec() != QDialog::Accepted)
@@ -26,9 +26,9 @@ QString SaveDialog::completed(QWidget &window, const QString &chosen) const
     const QString path = chosen + u'.' + m_suffix;
     if (!QFileInfo::exists(path))
         return path;
-    PlainMessageBox box(QMessageBox::Warning,
-                        tr("“%1” exists already.").arg(QDir::toNativeSeparators(path)),
-                        tr("Replacing it loses what it holds now."), QMessageBox::Cancel, &window);
+    PlainMessageBox box(
+        QMessageBox::Warning, tr("“%1” already exists.").arg(QDir::toNativeSeparators(path)),
+        tr("Replacing it will overwrite its contents."), QMessageBox::Cancel, &window);
     const QAbstractButton *replace = box.addButton(tr("Replace"), QMessageBox::DestructiveRole);
     box.setDefaultButton(QMessageBox::Cancel);
     box.exec();

@@ -5,25 +5,25 @@
 
 class QWidget;
 
-/** Asks where to write a file, and whether one that exists may be replaced. */
+/** Asks where to save a file and whether to replace an existing one. */
 class SaveDialog
 {
     Q_DECLARE_TR_FUNCTIONS(SaveDialog)
 
 public:
-    /** `suffix` is what a name without one gets, without its dot. */
+    /** `suffix`, without its dot, is added to names that have none. */
     SaveDialog(const QString &title, const QString &filter, const QString &suffix)
         : m_title(title)
         , m_filter(filter)
         , m_suffix(suffix)
     {}
 
-    /** The path that the user has chosen, with a suffix; empty if the user gave up. */
+    /** The path that the user has chosen, with a suffix; empty if the user cancelled. */
     QString ask(QWidget &window, const QString &suggested) const;
 
     /**
-     * The chosen path with a suffix. A dialog of the desktop may have asked about the name without
-     * one, so if the whole name is another file, the user is asked here; empty if that one stays.
+     * The chosen path with a suffix. A native dialog may have checked the name without the suffix
+     * only, so if the completed name exists, the user is asked; empty if it is not to be replaced.
      */
     QString completed(QWidget &window, const QString &chosen) const;
 

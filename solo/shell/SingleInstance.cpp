@@ -12,7 +12,7 @@
 
 namespace
 {
-/** Milliseconds in all: nobody waits longer for a window, or for a word why there is none. */
+/** Milliseconds until a start that gets no answer gives up. */
 constexpr int answerTime = 4000;
 constexpr int retryPause = 20; // milliseconds
 const QByteArray answer = QByteArrayLiteral("ok\n");
@@ -23,7 +23,7 @@ const QByteArray answer = QByteArrayLiteral("ok\n");
  */
 constexpr qsizetype longestFolder = 107 - 9;
 
-/** Where all starts of the user's meet; each of them comes to the same answer. */
+/** The folder of lock and socket, the same for all instances of the user. */
 QString meetingFolder(const QString &folder)
 {
     QDir().mkpath(folder);
@@ -56,7 +56,7 @@ SingleInstance::SingleInstance(const QString &folder)
 bool SingleInstance::begin()
 {
     if (!m_lock.tryLock(0)) {
-        // On a full disk, say, there may be a first program whose lock is not to be read.
+        // On a full disk, for example, the lock of the first instance cannot be read.
         if (m_lock.error() == QLockFile::LockFailedError || isAnotherListening())
             return false;
         m_problem =
@@ -79,7 +79,7 @@ bool SingleInstance::isAnotherListening() const
 bool SingleInstance::handOver(const QString &path) const
 {
     QLocalSocket socket;
-    // The first program may hold the lock and not listen yet.
+    // The first instance may hold the lock but not listen yet.
     const QDeadlineTimer deadline(answerTime);
     while (!deadline.hasExpired()) {
         socket.connectToServer(m_socketPath);
@@ -106,8 +106,8 @@ void SingleInstance::onNewConnection()
             const QByteArray line = socket->readLine().trimmed();
             socket->write(answer);
             socket->disconnectFromServer();
-            // Whoever hears of it may open a dialog, whose loop would delete the socket within its
-            // own signal; so it is told afterwards.
+            // Queued: a receiver may open a dialog, whose event loop would delete the socket within
+            // its own signal.
             const QString path = QUrl::fromPercentEncoding(line);
             QMetaObject::invokeMethod(
                 this, [this, path] { Q_EMIT fileHandedOver(path); }, Qt::QueuedConnection);

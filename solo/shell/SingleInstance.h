@@ -5,9 +5,9 @@
 #include <QObject>
 
 /**
- * Sees to it that only one program of a user runs: a later start hands its file to the first one.
- * The lock and the socket lie in the user's own folder; where that cannot be written to, or has too
- * long a name for a socket, they lie in the folder for what the user's session keeps.
+ * Makes sure that a user runs only one instance: later ones hand their file to the first. The lock
+ * and the socket are in the user's data folder or, if that is not writable or its path too long for
+ * a socket, in the session's runtime folder.
  */
 class SingleInstance : public QObject
 {
@@ -17,19 +17,19 @@ public:
     explicit SingleInstance(const QString &folder);
 
     /**
-     * True if this is the first program, or if that cannot be told; it listens for later ones from
-     * now on.
+     * Returns true if this is the first instance, or if that cannot be determined; it then listens
+     * for later ones.
      */
     bool begin();
 
-    /** Why later starts will not find this one; empty if they will. */
+    /** Why later instances will not find this one; empty if they will. */
     QString problem() const { return m_problem; }
 
-    /** Hands a file, or none, to the first program; false if that does not answer. */
+    /** Hands `path`, which may be empty, to the first instance; false if it does not respond. */
     bool handOver(const QString &path) const;
 
 Q_SIGNALS:
-    /** A later start came with this file, or with none. Told from the event loop. */
+    /** A later instance handed over `path`, which may be empty. Emitted from the event loop. */
     void fileHandedOver(QString path);
 
 private:

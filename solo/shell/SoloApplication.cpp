@@ -31,7 +31,7 @@ bool isAnyOf(const char *argument, std::initializer_list<const char *> options)
     });
 }
 
-/** True if the command line asks for nothing that is shown in a window. */
+/** True if the command line asks for something that needs no window. */
 bool worksWithoutDisplay(int argc, char *argv[])
 {
     return std::any_of(argv + 1, argv + argc, [](const char *argument) {
@@ -50,23 +50,23 @@ bool hasDisplay()
 }
 
 /**
- * On a terminal, what the program has to say must not drown in the editor's diagnostics, nor in
- * Qt's remark on which folder it takes for want of XDG_RUNTIME_DIR.
+ * Silences the editor's diagnostics and Qt's remark about a missing XDG_RUNTIME_DIR, so that the
+ * program's own messages stand out on a terminal.
  */
-void keepDiagnosticsToThoseWhoAsk()
+void silenceDiagnostics()
 {
     if (!qEnvironmentVariableIsSet("QT_LOGGING_RULES"))
         QLoggingCategory::setFilterRules(
             QStringLiteral("tonquill*.debug=false\ndefault.warning=false"));
 }
 
-/** The user's own folder for the journal and for meeting other starts of the program. */
+/** The user's folder for the journal and for finding other instances. */
 QString dataFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
 }
 
-/** True once: when the program is started for the first time. */
+/** True only for the first call ever, which it remembers in the settings. */
 bool isFirstStart()
 {
     QSettings settings;
@@ -85,7 +85,7 @@ int SoloApplication::fail(const QString &text)
 
 int SoloApplication::run(int argc, char *argv[])
 {
-    keepDiagnosticsToThoseWhoAsk();
+    silenceDiagnostics();
     if (worksWithoutDisplay(argc, argv))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     else if (!hasDisplay())
@@ -103,23 +103,23 @@ int SoloApplication::run(int argc, char *argv[])
 SoloArguments SoloApplication::readArguments()
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(tr("A sketch pad for music notation, with files of its own."));
+    parser.setApplicationDescription(tr("A sketch pad for music notation."));
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption exportTo(
-        QStringLiteral("export"),
-        tr("Write FILE as PDF, PNG or SVG, told by the suffix of <out>, and show no window."),
-        QStringLiteral("out"));
+    const QCommandLineOption exportTo(QStringLiteral("export"),
+                                      tr("Export FILE as PDF, PNG or SVG, depending on the suffix "
+                                         "of <out>, without showing a window."),
+                                      QStringLiteral("out"));
     const QCommandLineOption page(QStringLiteral("page"),
-                                  tr("The page of a PNG or SVG picture; the first if not given."),
+                                  tr("The page to export as PNG or SVG (default: 1)."),
                                   QStringLiteral("number"), QStringLiteral("1"));
-    const QCommandLineOption dots(QStringLiteral("dpi"),
-                                  tr("Dots per inch of a PNG picture; 150 if not given."),
-                                  QStringLiteral("dots"), QStringLiteral("150"));
+    const QCommandLineOption dots(
+        QStringLiteral("dpi"),
+        tr("The resolution of a PNG picture in dots per inch (default: 150)."),
+        QStringLiteral("dots"), QStringLiteral("150"));
     const QCommandLineOption example(
         QStringLiteral("example"),
-        tr("Open a copy of <file> if the program was never started before."),
-        QStringLiteral("file"));
+        tr("Open a copy of <file> the first time the program is started."), QStringLiteral("file"));
     parser.addOptions({exportTo, page, dots, example});
     parser.addPositionalArgument(QStringLiteral("FILE"), tr("The document to open."),
                                  QStringLiteral("[FILE]"));
@@ -157,18 +157,18 @@ int SoloApplication::runWindow(const SoloArguments &arguments)
         return openAsEditorOfHost();
 
     SoloWindow solo(dataFolder());
-    Beginning wanted{file, isFirstStart() ? arguments.example : QString(), {}};
+    StartRequest request{file, isFirstStart() ? arguments.example : QString(), {}};
     if (!instance.problem().isEmpty())
-        wanted.problems.append(
-            {tr("Another start of Tonquill will not find this window."), instance.problem()});
+        request.problems.append(
+            {tr("If you start Tonquill again, it will not find this window."), instance.problem()});
     if (const QString error = solo.startHost(); !error.isEmpty())
-        wanted.problems.append(
-            {tr("The toolbar's undo and redo cannot be used; the menu's can."), error});
+        request.problems.append(
+            {tr("Undo and redo only work from the menu, not from the toolbar."), error});
     QObject::connect(&instance, &SingleInstance::fileHandedOver, &solo, &SoloWindow::openLater);
     QObject::connect(&solo, &SoloWindow::finished, [] { QCoreApplication::exit(0); });
-    // Questions wait until the window is in its place, for they are asked in its middle.
-    QObject::connect(&solo, &SoloWindow::appeared, &solo, [&solo, wanted] {
-        solo.errands().add([&solo, wanted] { solo.begin(wanted); });
+    // Questions wait until the window is in its place, since they are centred on it.
+    QObject::connect(&solo, &SoloWindow::appeared, &solo, [&solo, request] {
+        solo.tasks().add([&solo, request] { solo.begin(request); });
     });
     solo.show();
     return QCoreApplication::exec();
@@ -178,7 +178,7 @@ int SoloApplication::handOver(const SingleInstance &instance, const QString &pat
 {
     if (instance.handOver(path))
         return 0;
-    const QString text = tr("Another Tonquill is running and does not answer.");
+    const QString text = tr("Tonquill is already running but does not respond.");
     const QString details = path.isEmpty()
                                 ? QString()
                                 : tr("It may open “%1” later.").arg(QDir::toNativeSeparators(path));
@@ -187,10 +187,10 @@ int SoloApplication::handOver(const SingleInstance &instance, const QString &pat
     return status;
 }
 
-/** A host that is there already keeps its name; this program can be its editor, or nothing. */
+/** Offers to run as the editor of a host that is already running. */
 int SoloApplication::openAsEditorOfHost()
 {
-    PlainMessageBox box(QMessageBox::Question, tr("A host for Tonquill is running already."),
+    PlainMessageBox box(QMessageBox::Question, tr("A host for Tonquill is already running."),
                         tr("It keeps the document and its history. Tonquill can open as its "
                            "editor, without files and menus of its own."),
                         QMessageBox::Cancel);

@@ -15,7 +15,7 @@ struct SoloArguments
     int dotsPerInch = 150;
 };
 
-/** The program from start to end: the command line, other running programs, the window. */
+/** The program from start to end: command line, other instances, window. */
 class SoloApplication
 {
     Q_DECLARE_TR_FUNCTIONS(SoloApplication)

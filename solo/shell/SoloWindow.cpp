@@ -11,7 +11,7 @@
 
 namespace
 {
-/** The palette's button for the host's window; here there is no other window. */
+/** The palette's button that raises the host's window; this program has none. */
 constexpr int raiseHostId = 0;
 } // namespace
 
@@ -29,9 +29,9 @@ SoloWindow::SoloWindow(const QString &folder)
     m_window.installEventFilter(this);
     connect(&m_host, &BuiltInHost::edited, &m_session.edits(), &EditWatcher::checkSoon);
     connect(&m_host, &BuiltInHost::undoRequested, this,
-            [this] { m_errands.add([this] { m_undo.undo(); }); });
+            [this] { m_tasks.add([this] { m_undo.undo(); }); });
     connect(&m_host, &BuiltInHost::redoRequested, this,
-            [this] { m_errands.add([this] { m_undo.redo(); }); });
+            [this] { m_tasks.add([this] { m_undo.redo(); }); });
     connect(&m_host, &BuiltInHost::raiseRequested, this, &SoloWindow::show);
     connect(&m_session, &DocumentSession::changed, this, &SoloWindow::refreshTitle);
     connect(&m_session.edits(), &EditWatcher::documentChanged, &m_pages, &PageControls::refresh);
@@ -58,37 +58,37 @@ void SoloWindow::show()
 void SoloWindow::openLater(const QString &path)
 {
     show();
-    m_errands.add([this, path] {
-        // The changes to a file that is open already are what its user wants to see.
+    m_tasks.add([this, path] {
+        // Unsaved changes to a file that is already open are not discarded.
         if (!path.isEmpty() && !(m_session.isModified() && m_session.comesFrom(path)))
             m_files.openFile(path);
     });
 }
 
-void SoloWindow::begin(const Beginning &wanted)
+void SoloWindow::begin(const StartRequest &request)
 {
-    for (const auto &[text, details] : wanted.problems)
+    for (const auto &[text, details] : request.problems)
         PlainMessageBox::warn(&m_window, text, details);
     m_session.tryJournal();
     const bool isRecovered = m_files.offerRecovery();
-    // What was just recovered is newer than its file, which is not opened over it.
-    if (!wanted.file.isEmpty() && !(isRecovered && m_session.comesFrom(wanted.file)))
-        m_files.openFile(wanted.file);
-    else if (wanted.file.isEmpty() && !wanted.example.isEmpty() && !isRecovered)
-        m_files.openCopy(wanted.example);
+    // A recovered document is newer than its file and must not be replaced by it.
+    if (!request.file.isEmpty() && !(isRecovered && m_session.comesFrom(request.file)))
+        m_files.openFile(request.file);
+    else if (request.file.isEmpty() && !request.example.isEmpty() && !isRecovered)
+        m_files.openCopy(request.example);
 }
 
 void SoloWindow::onJournalFailed(const QString &reason)
 {
-    m_errands.add([this, reason] {
-        PlainMessageBox::warn(
-            &m_window, tr("Unsaved changes cannot be kept for recovery after a crash."), reason);
+    m_tasks.add([this, reason] {
+        PlainMessageBox::warn(&m_window, tr("Unsaved changes cannot be recovered after a crash."),
+                              reason);
     });
 }
 
 void SoloWindow::refreshTitle()
 {
-    // Doubled, the mark of a change in a file's name is only a part of the name.
+    // Qt takes "[*]" for the place of the modification mark unless it is doubled.
     const QString mark = QStringLiteral("[*]");
     const QString name = m_session.name().replace(mark, mark + mark);
     m_window.setWindowTitle(tr("%1[*] – Tonquill").arg(name));
@@ -98,7 +98,7 @@ void SoloWindow::refreshTitle()
 /** Asks about unsaved changes; finished() is emitted unless the user cancels. */
 void SoloWindow::quit()
 {
-    // A second wish to close while the first is being asked about adds no question.
+    // Closing again while the question is shown must not ask a second time.
     if (m_leaving)
         return;
     m_leaving = true;
@@ -117,7 +117,7 @@ bool SoloWindow::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::Paint && !std::exchange(m_hasAppeared, true))
         QMetaObject::invokeMethod(this, &SoloWindow::appeared, Qt::QueuedConnection);
     if (event->type() == QEvent::WindowActivate)
-        m_errands.add([this] { m_files.lookForOutsideChange(); });
+        m_tasks.add([this] { m_files.lookForOutsideChange(); });
     if (event->type() != QEvent::Close)
         return false;
     event->ignore();

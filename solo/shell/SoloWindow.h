@@ -2,9 +2,9 @@
 
 #include "BuiltInHost.h"
 #include "DocumentSession.h"
-#include "ErrandQueue.h"
 #include "FileCommands.h"
 #include "PageControls.h"
+#include "TaskQueue.h"
 #include "TonquillMainWin.h"
 #include "UndoCommands.h"
 #include "ZoomControl.h"
@@ -13,50 +13,53 @@
 
 #include <utility>
 
-/** What a start of the program wants to have open. */
-struct Beginning
+/** What the command line asks the window to open. */
+struct StartRequest
 {
     QString file;
-    QString example;                             ///< to open a copy of, if there is no file
-    QList<std::pair<QString, QString>> problems; ///< to be said first, each with its reason
+    QString example;                             ///< opened as a copy if there is no file
+    QList<std::pair<QString, QString>> problems; ///< reported first, each with its reason
 };
 
 /**
- * The editor's window with everything round it that makes it a program of its own: a host, files,
- * undo, recovery and menus. Closing the window ends the program.
+ * The editor's window with everything that makes it a program of its own: a host, files, undo,
+ * recovery and menus. Closing the window ends the program.
  */
 class SoloWindow : public QObject
 {
     Q_OBJECT
 
 public:
-    /** Keeps its journal in `folder`. The window is not shown yet. */
+    /** Keeps its journal in `folder`. Does not show the window yet. */
     explicit SoloWindow(const QString &folder);
 
     TonquillMainWin &window() { return m_window; }
     DocumentSession &session() { return m_session; }
     FileCommands &files() { return m_files; }
 
-    /** For what comes from outside the window. */
-    ErrandQueue &errands() { return m_errands; }
+    /** Queue for requests from outside the window. */
+    TaskQueue &tasks() { return m_tasks; }
 
-    /** Starts the host and connects the editor to it. The answer is empty, or an error. */
+    /**
+     * Starts the host and connects the editor to it. Returns an empty string on success, else the
+     * error.
+     */
     QString startHost();
 
-    /** Shows the window in front of the others, with the dialog that it may be waiting for. */
+    /** Shows and raises the window, and activates its modal dialog, if any. */
     void show();
 
-    /** Shows the window and opens a file, if one is given, as soon as nothing else goes on. */
+    /** Shows the window and opens `path`, unless it is empty, as soon as the user is not busy. */
     void openLater(const QString &path);
 
-    /** Offers what a former run left behind, then opens what is wanted. */
-    void begin(const Beginning &wanted);
+    /** Offers to recover the previous run's unsaved changes, then opens what `request` names. */
+    void begin(const StartRequest &request);
 
 Q_SIGNALS:
-    /** The window is on the screen for the first time, where the desktop has put it. */
+    /** The window was painted for the first time, in its place on the screen. */
     void appeared();
 
-    /** The window was closed for good. */
+    /** The window was closed and the program may end. */
     void finished();
 
 protected:
@@ -67,7 +70,7 @@ private:
     void refreshTitle();
     void onJournalFailed(const QString &reason);
 
-    ErrandQueue m_errands;
+    TaskQueue m_tasks;
     TonquillMainWin m_window;
     DocumentSession m_session;
     FileCommands m_files;

@@ -21,7 +21,7 @@ void UndoCommands::redo()
         sayNothingLeft(QStringLiteral("Redo"), QStringLiteral("Nothing to redo"));
 }
 
-/** The box that the editor shows when a host says so. */
+/** Shows the same box as the editor when a host reports this. */
 void UndoCommands::sayNothingLeft(const QString &title, const QString &text)
 {
     openBox(m_window, QMessageBox::Warning, title, text);

@@ -5,11 +5,11 @@
 class DocumentSession;
 class TonquillMainWin;
 
-/** Undo and redo as commands of the user, who hears when there is nothing left. */
+/** The undo and redo commands, which tell the user when there is nothing to undo or redo. */
 class UndoCommands : public QObject
 {
 public:
-    /** Both arguments outlive the object. */
+    /** Both arguments must outlive the object. */
     UndoCommands(TonquillMainWin &window, DocumentSession &session);
 
     void undo();

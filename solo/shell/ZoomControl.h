@@ -5,8 +5,8 @@
 class TonquillMainWin;
 
 /**
- * How large the window shows the page. Ctrl with the wheel zooms at the pointer. While there is
- * such a control, lines grow with the zoom as glyphs do.
+ * The zoom of the window's view. Ctrl and the mouse wheel zoom at the pointer. As long as a control
+ * exists, lines grow with the zoom as glyphs do.
  */
 class ZoomControl : public QObject
 {
@@ -20,11 +20,11 @@ public Q_SLOTS:
     void zoomIn();
     void zoomOut();
     void showActualSize();
-    /** Makes a sheet as wide as the view. */
+    /** Zooms so that a sheet is as wide as the view. */
     void fitWidth();
 
 Q_SIGNALS:
-    /** A scene unit is going to be shown as so many pixels. */
+    /** Emitted before the zoom changes to `scale` pixels per scene unit. */
     void aboutToZoom(double scale);
     void zoomed();
 
@@ -34,8 +34,7 @@ protected:
 private:
     Q_DISABLE_COPY_MOVE(ZoomControl)
 
-    /** Shows a scene unit as `scale` pixels. The point in the middle, or under the pointer, stays.
-     */
+    /** Shows a scene unit as `scale` pixels, keeping the centre or the point under the pointer. */
     void setScale(double scale, bool atPointer);
     double scale() const;
 

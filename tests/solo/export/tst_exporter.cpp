@@ -86,7 +86,7 @@ void ExporterTest::aPdfThatFailsIsToldOnce()
         m_solo->files().exportPdf();
     }
     QCOMPARE(open.size(), 1);
-    QVERIFY2(said.startsWith("The PDF could not be written."), qPrintable(said));
+    QVERIFY2(said.startsWith("The PDF cannot be written."), qPrintable(said));
     QVERIFY2(said.contains("song.pdf: "), qPrintable(said));
     QVERIFY(boxes().isEmpty());
     QVERIFY(!QFileInfo::exists(path()));

@@ -493,7 +493,7 @@ void SoloWindowTest::aJournalThatCannotBeCopiedIsNotWrittenOver()
         const FullDisk full(4096);
         m_solo->files().offerRecovery();
     }
-    QVERIFY2(said.contains("Until this file is moved away"), qPrintable(said));
+    QVERIFY2(said.contains("Until this file is moved, no further changes"), qPrintable(said));
     QVERIFY2(said.contains(journal), qPrintable(said));
     QCOMPARE(m_solo->session().edits().document().items, QByteArrayList{"tonquill_bitmap 1 2 19"});
     placeNote();
