@@ -1,7 +1,7 @@
-# The layers of the program: one library a folder, which sees the folders below it and no other.
+# The layers of the program: one library per folder, which only sees the folders below it.
 
-# tonquill_layer(NAME USES LIBRARY... SOURCES FILE...): the static library of the present folder.
-# Headers are included by their bare names. What a layer links, those above it may include too.
+# tonquill_layer(NAME USES LIBRARY... SOURCES FILE...): the static library of the current folder.
+# Headers are included by their bare names. Layers above may also include what a layer links.
 function(tonquill_layer name)
     cmake_parse_arguments(PARSE_ARGV 1 layer "" "" "USES;SOURCES")
     add_library(${name} STATIC ${layer_SOURCES})
@@ -18,7 +18,7 @@ function(tonquill_layer name)
     list(REMOVE_DUPLICATES folders)
     target_include_directories(${name} PUBLIC
         ${folders}
-        # The generated Ui_ headers, which the class headers forward-declare only.
+        # The generated Ui_ headers, which class headers only forward-declare.
         ${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/include)
     target_compile_features(${name} PUBLIC cxx_std_20)
     target_link_libraries(${name}

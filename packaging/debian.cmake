@@ -17,13 +17,12 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION sound)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The fonts behind "Arial" and the like, what Qt says in other languages, and what opens a
-# symbols reference file.
+# Fonts for "Arial" and the like, translations of Qt, and what opens a symbols reference file.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation, qt6-translations-l10n, xdg-utils")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
-# What a package has to have beyond an installed tree.
+# What a package needs besides the installed tree.
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_SOURCE_DIR}/finish-deb.cmake)
 set(CPACK_TONQUILL_SOURCE_DIR ${PROJECT_SOURCE_DIR})
 set(CPACK_VERBATIM_VARIABLES ON)

@@ -1,8 +1,8 @@
-# Run by cpack on the tree that becomes the Debian package: the copyright file and the changelogs,
-# and everything packed that Debian wants packed.
+# Run by cpack on the tree of the Debian package: adds the copyright file and the changelogs and
+# compresses what Debian requires to be compressed.
 set(share ${CPACK_TEMPORARY_DIRECTORY}/usr/share)
 set(doc ${share}/doc/tonquill)
-# Whatever the umask of who packs, and whoever may read the files in the source folder.
+# Independent of the umask and of the permissions of the source files.
 set(for_everybody FILE_PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 file(COPY ${CPACK_TONQUILL_SOURCE_DIR}/packaging/copyright DESTINATION ${doc} ${for_everybody})
 configure_file(${CPACK_TONQUILL_SOURCE_DIR}/CHANGELOG.md ${doc}/changelog
@@ -16,7 +16,7 @@ file(GLOB pages ${share}/man/man1/*.1)
 execute_process(COMMAND gzip --best --no-name ${doc}/changelog ${doc}/changelog.Debian ${pages}
     COMMAND_ERROR_IS_FATAL ANY)
 
-# So with the folders that stand above what cmake installs.
+# The same for the folders above those that cmake installs.
 file(GLOB_RECURSE folders LIST_DIRECTORIES true ${CPACK_TEMPORARY_DIRECTORY}/*)
 list(FILTER folders EXCLUDE REGEX "/DEBIAN")
 foreach(folder IN LISTS folders ITEMS ${CPACK_TEMPORARY_DIRECTORY})

@@ -1,5 +1,5 @@
-"""Draws the pictures of the user guide anew: has the program do what the guide tells, on a virtual
-display, and looks. Writes them into the folder that is named."""
+"""Takes the pictures of the user guide: runs the program on a virtual display, does what the guide
+describes, and writes the pictures to the given folder."""
 
 import pathlib
 import sys
@@ -49,7 +49,7 @@ def sheet():
 
 
 class Guide:
-    """The program, taken through what the guide tells."""
+    """The program, doing what the guide describes."""
 
     def __init__(self, desktop, programs, folder):
         self.desktop = desktop

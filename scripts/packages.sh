@@ -19,7 +19,7 @@ needed_packages()
 missing_packages()
 {
     local installed name
-    # dpkg-query fails when it does not know one of them, and still lists the others.
+    # dpkg-query fails if it does not know one of them, but still lists the others.
     installed=" $(dpkg-query -W -f '${Package}:${db:Status-Status} ' "$@" 2>/dev/null || true)"
     for name in "$@"; do
         [[ $installed == *" $name:installed "* ]] || printf '%s ' "$name"
@@ -32,7 +32,7 @@ is_debian_12()
         (. /etc/os-release && [[ ${ID:-} == debian && ${VERSION_ID:-} == 12 ]])
 }
 
-# as_root COMMAND...: runs it as root, through sudo where need be.
+# as_root COMMAND...: runs it as root, with sudo if necessary.
 as_root()
 {
     if ((EUID == 0)); then
@@ -42,7 +42,7 @@ as_root()
     fi
 }
 
-# apt_get ARGUMENT...: apt-get that asks nothing and waits for another one's lock.
+# apt_get ARGUMENT...: a non-interactive apt-get that waits for locks.
 apt_get()
 {
     local attempt
@@ -56,7 +56,7 @@ apt_get()
     done
 }
 
-# install_packages GROUP...: sees to it that every package of these groups is there.
+# install_packages GROUP...: installs the missing packages of these groups.
 install_packages()
 {
     local needed missing
