@@ -1,7 +1,8 @@
 #pragma once
 
+#include "SymbolSource.h"
+
 #include <QMarginsF>
-#include <QPixmap>
 #include <QRectF>
 
 /** A sheet of paper; all lengths are inches. */
@@ -12,11 +13,9 @@ struct Sheet
 };
 
 /** What the document asks of the program round it: the main window, or a test. */
-class DocumentContext
+class DocumentContext : public SymbolSource
 {
 public:
-    virtual ~DocumentContext() = default;
-
     /** The paper of a new document. */
     virtual Sheet sheet() const = 0;
 
@@ -31,9 +30,6 @@ public:
     /** Quick text mode: letters that are typed on the page open a text block. */
     virtual bool isQuickTextOn() const = 0;
     virtual void setQuickText(bool on) = 0;
-
-    /** The picture of a symbol; null if there is none of this id. */
-    virtual QPixmap symbolPicture(int id) const = 0;
 
     /** An edit is complete. */
     virtual void editFinished() = 0;

@@ -1,9 +1,10 @@
 #include "TonquillScene.h"
 
 #include "DocumentItem.h"
+#include "GlyphState.h"
+#include "ItemKinds.h"
 #include "Logging.h"
 #include "PageGeometry.h"
-#include "SymbolTable.h"
 #include "TonquillBitmap.h"
 #include "TonquillText.h"
 
@@ -72,6 +73,9 @@ void TonquillScene::addNewItem(QGraphicsItem *item)
     addItem(item);
     ++m_addedItems;
     fitIndexToItems();
+    const ItemKind *kind = ItemKinds::catalogue().ofItem(*item);
+    if (kind && kind->joinScene)
+        kind->joinScene(*item, *this);
     // Of a document only the last item is remembered: watching each in turn would cost as much
     // memory and time as two of its coordinates.
     if (m_isBuildingDocument)
@@ -84,9 +88,7 @@ TonquillBitmap *TonquillScene::insertSymbol(int id, bool adding, bool withInvert
 {
     if (isNewItemIsAdding())
         return nullptr;
-    const std::optional<int> other = withInverted ? SymbolTable::upsideDownOf(id) : std::nullopt;
-    auto *item = new TonquillBitmap(m_context->symbolPicture(id), id, adding,
-                                    other ? m_context->symbolPicture(*other) : QPixmap());
+    TonquillBitmap *item = GlyphState::makeGlyph(*m_context, id, adding, withInverted);
     addNewItem(item);
     return item;
 }

@@ -10,6 +10,8 @@
 #include <QPointer>
 #include <QStringList>
 
+class ItemState;
+struct ItemKind;
 class QGraphicsTextItem;
 class TonquillBitmap;
 class TonquillText;
@@ -105,6 +107,9 @@ public:
 
     // Items
 
+    /** Builds an item of this state, which the scene then owns. */
+    QGraphicsItem *buildItem(const ItemState &state);
+
     /** Adds the item, which the scene then owns, and remembers it as the last added one. */
     void addNewItem(QGraphicsItem *item);
 
@@ -172,10 +177,7 @@ private:
     QList<QGraphicsItem *> topLevelItemsIn(const QRectF &area) const;
 
     // Records
-    void build(const Records::Record &record, bool adding, int offset);
-    void buildBitmap(const Records::Bitmap &record, bool adding, int offset);
-    void buildText(const Records::Text &record, bool adding, int offset);
-    void place(QGraphicsItem *item, int x, int y, double offset);
+    void build(const ItemKind &kind, QStringView record, bool adding, int offset);
     QPointF cursorPosition() const;
     static QString recordOf(QObject *item);
 

@@ -1,15 +1,13 @@
+#include "ItemKinds.h"
 #include "Logging.h"
 #include "PageGeometry.h"
 #include "PaperPainting.h"
-#include "TonquillBitmap.h"
 #include "TonquillScene.h"
-#include "TonquillVectorTriplet.h"
 
 #include <QPainter>
 #include <QPainterPath>
 
 #include <algorithm>
-#include <typeinfo>
 
 void TonquillScene::setPaper(const QRectF &paper, const QRectF &frame)
 {
@@ -137,25 +135,16 @@ void TonquillScene::clearScene()
 
 namespace
 {
-/** True for the items of the document; their shape is the rectangle of their bounds. */
-bool isDocumentItem(const QGraphicsItem &item)
-{
-    // The type of a glyph is Qt's default, which an embedding program's items may have.
-    if (item.type() == TonquillBitmap::Type)
-        return typeid(item) == typeid(TonquillBitmap);
-    return item.type() > TonquillBitmap::Type && item.type() <= TonquillVectorTriplet::Type;
-}
-
 /**
  * Whether the item's shape reaches into the area. Qt compares outlines, which takes ten
  * times as long as moving the item, so it is asked only about items on the area's edge and about
- * those whose shape may be anything.
+ * those of no known kind, whose shape may be anything.
  */
 bool reachesInto(const QRectF &area, const QGraphicsItem &item)
 {
     constexpr qreal edge = 1.0;
     const QRectF bounds = item.sceneBoundingRect();
-    if (isDocumentItem(item) && !bounds.isEmpty() &&
+    if (ItemKinds::catalogue().ofItem(item) && !bounds.isEmpty() &&
         area.adjusted(edge, edge, -edge, -edge).contains(bounds))
         return true;
     QPainterPath outline;

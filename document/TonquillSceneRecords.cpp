@@ -1,10 +1,7 @@
-#include "ItemFactory.h"
+#include "ItemKinds.h"
 #include "Logging.h"
-#include "TonquillBitmap.h"
+#include "Records.h"
 #include "TonquillScene.h"
-#include "TonquillText.h"
-#include "TonquillTextBlock.h"
-#include "TonquillTimeSig.h"
 
 #include <QCursor>
 #include <QGraphicsView>
@@ -42,7 +39,8 @@ QString TonquillScene::recordOf(QObject *item)
 void TonquillScene::constructItem(const QString &record, bool adding, int offset)
 {
     qCDebug(lcRecords) << "conxtructitem itemname" << Records::keywordOf(record);
-    build(Records::parse(record), adding, offset);
+    if (const ItemKind *kind = ItemKinds::catalogue().ofRecord(Records::keywordOf(record)))
+        build(*kind, record, adding, offset);
 }
 
 ItemReference TonquillScene::constructDocument(QStringView records)
@@ -56,8 +54,11 @@ ItemReference TonquillScene::constructDocument(QStringView records)
     m_isBuildingDocument = true;
     while (!records.isEmpty()) {
         const QStringView record = Records::takeFirst(records);
-        qCDebug(lcRecords) << "conxtructitem itemname" << Records::keywordOf(record);
-        build(Records::parse(record), false, 0);
+        const QStringView keyword = Records::keywordOf(record);
+        qCDebug(lcRecords) << "conxtructitem itemname" << keyword;
+        const ItemKind *kind = ItemKinds::catalogue().ofRecord(keyword);
+        if (kind && kind->isHostKind)
+            build(*kind, record, false, 0);
     }
     m_isBuildingDocument = false;
     m_waiting = waiting;
@@ -67,84 +68,23 @@ ItemReference TonquillScene::constructDocument(QStringView records)
     return m_lastAdded;
 }
 
-namespace
+void TonquillScene::build(const ItemKind &kind, QStringView record, bool adding, int offset)
 {
-/** Overloaded lambdas for std::visit. */
-template <typename... Visitors>
-struct Overloaded : Visitors...
-{
-    using Visitors::operator()...;
-};
-
-template <typename... Visitors>
-Overloaded(Visitors...) -> Overloaded<Visitors...>;
-} // namespace
-
-void TonquillScene::build(const Records::Record &parsed, bool adding, int offset)
-{
-    const auto addAndPlace = [this, offset](QGraphicsItem *item, const auto &record) {
-        addNewItem(item);
-        place(item, record.x, record.y, offset);
-    };
-    std::visit(Overloaded{
-                   [](std::monostate) {},
-                   [&](const Records::Bitmap &record) { buildBitmap(record, adding, offset); },
-                   [&](const Records::Text &record) { buildText(record, adding, offset); },
-                   [&](const Records::TimeSig &record) {
-                       addAndPlace(
-                           new TonquillTimeSig(record.numerator, record.denominator, adding),
-                           record);
-                   },
-                   [&](const Records::Vector &record) {
-                       addAndPlace(ItemFactory::makeVectorItem(record, adding), record);
-                   },
-                   [&](const Records::TextBlock &record) {
-                       qCDebug(lcRecords)
-                           << "tmp1=" << record.x << record.y << record.width << record.height;
-                       qCDebug(lcRecords) << "txt=" << record.text;
-                       const QRectF rect(record.x, record.y, record.width, record.height);
-                       addAndPlace(new TonquillTextBlock(adding, record.text, rect), record);
-                   },
-               },
-               parsed);
-}
-
-void TonquillScene::buildBitmap(const Records::Bitmap &record, bool adding, int offset)
-{
-    TonquillBitmap *item = insertSymbol(record.symbolId, adding, true);
+    const auto [item, position] = kind.readRecord(Records::fieldsOf(record), adding, *m_context);
     if (!item)
         return;
-    item->setInverted(record.inverted);
-    place(item, record.x, record.y, offset);
-}
-
-void TonquillScene::buildText(const Records::Text &record, bool adding, int offset)
-{
-    QFont font;
-    font.setFamily(record.family);
-    // A size that is none comes from fields that a text of several words has shifted.
-    if (record.pointSize > 0)
-        font.setPointSize(record.pointSize);
-    auto *item = new TonquillText(adding);
-    item->setFont(font);
-    item->setPlainText(record.text);
-    item->setDefaultTextColor(QColor(record.color));
-    item->setSelected(adding);
-    connect(item, &TonquillText::showTextItemMenu, this, &TonquillScene::onTextItemContextMenu);
+    if (kind.dropsWaitingItem)
+        isNewItemIsAdding();
+    const double away = double(kind.offsetTimes) * offset;
+    item->setPos(offset == atCursor ? cursorPosition() : position + QPointF(away, away));
     addNewItem(item);
-    item->setRotation(record.rotation);
-    item->updateFrame();
-    // A simple text gets the offset twice. That is intentional.
-    place(item, record.x, record.y, offset == atCursor ? atCursor : 2.0 * offset);
-    update();
 }
 
-void TonquillScene::place(QGraphicsItem *item, int x, int y, double offset)
+QGraphicsItem *TonquillScene::buildItem(const ItemState &state)
 {
-    if (offset == atCursor)
-        item->setPos(cursorPosition());
-    else
-        item->setPos(x + offset, y + offset);
+    QGraphicsItem *item = state.build(*m_context);
+    addNewItem(item);
+    return item;
 }
 
 /** The mouse cursor in scene coordinates, as the first view maps it. */

@@ -5,6 +5,7 @@
 #include "Records.h"
 
 #include <QGraphicsSceneMouseEvent>
+#include <QMetaMethod>
 #include <QPainter>
 
 TonquillText::TonquillText(bool adding, QGraphicsItem *parent)
@@ -25,6 +26,12 @@ void TonquillText::moveAnchorToCorner()
 {
     frame().parentBoundsAboutToChange();
     frame().setAnchors({boundingRect().bottomLeft()});
+}
+
+bool TonquillText::hasMenu() const
+{
+    static const QMetaMethod asked = QMetaMethod::fromSignal(&TonquillText::showTextItemMenu);
+    return isSignalConnected(asked);
 }
 
 QString TonquillText::getParamStr()

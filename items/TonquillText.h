@@ -29,6 +29,10 @@ public:
     void moveAnchorToCorner();
 
     int type() const override { return Type; }
+
+    /** True if anybody is told of a right press on it. */
+    bool hasMenu() const;
+
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
 public Q_SLOTS:

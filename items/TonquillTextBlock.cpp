@@ -23,9 +23,6 @@ constexpr std::array pointSizes{8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28
 
 constexpr int bottomRightAnchor = 1;
 
-/** The rectangle is this much wider than the text it holds. */
-constexpr qreal widthBesideText = 1.0;
-
 QString placeholder()
 {
     return QStringLiteral("Text Block:\r\n\r\nSet the size with the Mouse.\r\n"
@@ -59,7 +56,8 @@ TonquillTextBlock::~TonquillTextBlock() = default;
 
 void TonquillTextBlock::fitTo(QSizeF textSize)
 {
-    setCorners(QPointF(0, 0), QPointF(textSize.width() + widthBesideText, textSize.height()));
+    setCorners(QPointF(0, 0),
+               QPointF(textSize.width() + Records::widthBesideText, textSize.height()));
     fitTextToWidth();
 }
 
@@ -199,7 +197,7 @@ void TonquillTextBlock::letOthersPaintAndFitText()
 
 void TonquillTextBlock::fitTextToWidth()
 {
-    setTextWidth(boundingRect().width() - widthBesideText);
+    setTextWidth(boundingRect().width() - Records::widthBesideText);
 }
 
 void TonquillTextBlock::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)

@@ -63,77 +63,43 @@ private:
 
 using Records::Record;
 
-Record parseBitmap(const QString &, QStringView rest)
+/** A record that was read, or an empty one. */
+template <typename Parsed>
+Record recordOf(const std::optional<Parsed> &parsed)
 {
-    const Fields fields(rest);
-    if (fields.count() < bitmapFields)
-        return {};
-    return Records::Bitmap{fields.number(0), fields.number(1), fields.number(2),
-                           fields.number(3) != 0};
+    return parsed ? Record(*parsed) : Record();
 }
 
-Record parseTimeSig(const QString &, QStringView rest)
+Record figureOf(const QString &keyword, QStringView fields)
 {
-    const Fields fields(rest);
-    if (fields.count() < timesigFields)
-        return {};
-    return Records::TimeSig{fields.number(0), fields.number(1), fields.number(2), fields.number(3)};
+    return recordOf(Records::parseVector(keyword, fields));
 }
 
-Record parseVector(const QString &keyword, QStringView rest)
+template <auto parse>
+Record plainRecordOf(const QString &, QStringView fields)
 {
-    const Fields fields(rest);
-    if (fields.count() < vectorFields)
-        return {};
-    return Records::Vector{keyword,          fields.number(0), fields.number(1), fields.number(2),
-                           fields.number(3), fields.number(4), fields.number(5)};
-}
-
-Record parseText(const QString &, QStringView rest)
-{
-    const Fields fields(rest);
-    if (fields.count() < textFields)
-        return {};
-    // The colour was written with its alpha, eight hexadecimal digits, which no int holds: it
-    // reads as 0. The angle is read as a whole number. Both are intentional.
-    return Records::Text{fields.number(0), fields.number(1),    fields.number(2),
-                         fields.number(3), fields.text(4),      fields.text(5),
-                         fields.number(6), fields.hexNumber(7), double(fields.number(8))};
-}
-
-Record parseTextBlock(const QString &, QStringView rest)
-{
-    const qsizetype lineBreak = rest.indexOf(u'\n');
-    if (lineBreak < 0)
-        return {};
-    const QStringView body = rest.sliced(lineBreak + 1);
-    const qsizetype end = body.indexOf(Records::textblockEnd());
-    const Fields header(rest.first(lineBreak));
-    if (end < 0 || header.count() < textblockFields)
-        return {};
-    return Records::TextBlock{header.number(0), header.number(1), header.number(2),
-                              header.number(3), body.first(end).toString()};
+    return recordOf(parse(fields));
 }
 
 /** How the records of one kind are read. */
 struct Reader
 {
     Records::Kind kind;
-    Record (*parse)(const QString &keyword, QStringView rest);
+    Record (*parse)(const QString &keyword, QStringView fields);
 };
 
 const QList<Reader> &readers()
 {
     static const QList<Reader> table{
-        {{Records::bitmapKeyword(), bitmapFields}, parseBitmap},
-        {{Records::timesigKeyword(), timesigFields}, parseTimeSig},
-        {{Records::grandstaffKeyword(), vectorFields}, parseVector},
-        {{Records::interactivelineKeyword(), vectorFields}, parseVector},
-        {{Records::linetabKeyword(), vectorFields}, parseVector},
-        {{Records::notetieKeyword(), vectorFields}, parseVector},
-        {{Records::tripletKeyword(), vectorFields}, parseVector},
-        {{Records::textKeyword(), textFields}, parseText},
-        {{Records::textblockKeyword(), textblockFields}, parseTextBlock},
+        {{Records::bitmapKeyword(), bitmapFields}, plainRecordOf<Records::parseBitmap>},
+        {{Records::timesigKeyword(), timesigFields}, plainRecordOf<Records::parseTimeSig>},
+        {{Records::grandstaffKeyword(), vectorFields}, figureOf},
+        {{Records::interactivelineKeyword(), vectorFields}, figureOf},
+        {{Records::linetabKeyword(), vectorFields}, figureOf},
+        {{Records::notetieKeyword(), vectorFields}, figureOf},
+        {{Records::tripletKeyword(), vectorFields}, figureOf},
+        {{Records::textKeyword(), textFields}, plainRecordOf<Records::parseText>},
+        {{Records::textblockKeyword(), textblockFields}, plainRecordOf<Records::parseTextBlock>},
     };
     return table;
 }
@@ -244,6 +210,16 @@ const QList<Records::Kind> &Records::kinds()
     return table;
 }
 
+bool Records::isBlockBegin(QStringView line)
+{
+    return keywordOf(line) == textblockKeyword();
+}
+
+bool Records::isBlockEnd(QStringView line)
+{
+    return line == textblockEnd();
+}
+
 QStringView Records::keywordOf(QStringView record)
 {
     const qsizetype blank = positionOf(u' ', record);
@@ -258,6 +234,63 @@ QStringView Records::takeFirst(QStringView &records)
     return first;
 }
 
+std::optional<Records::Bitmap> Records::parseBitmap(QStringView text)
+{
+    const Fields fields(text);
+    if (fields.count() < bitmapFields)
+        return std::nullopt;
+    return Bitmap{fields.number(0), fields.number(1), fields.number(2), fields.number(3) != 0};
+}
+
+std::optional<Records::TimeSig> Records::parseTimeSig(QStringView text)
+{
+    const Fields fields(text);
+    if (fields.count() < timesigFields)
+        return std::nullopt;
+    return TimeSig{fields.number(0), fields.number(1), fields.number(2), fields.number(3)};
+}
+
+std::optional<Records::Vector> Records::parseVector(const QString &keyword, QStringView text)
+{
+    const Fields fields(text);
+    if (fields.count() < vectorFields)
+        return std::nullopt;
+    return Vector{keyword,          fields.number(0), fields.number(1), fields.number(2),
+                  fields.number(3), fields.number(4), fields.number(5)};
+}
+
+std::optional<Records::Text> Records::parseText(QStringView text)
+{
+    const Fields fields(text);
+    if (fields.count() < textFields)
+        return std::nullopt;
+    // The colour was written with its alpha, eight hexadecimal digits, which no int holds: it
+    // reads as 0. The angle is read as a whole number. Both are intentional.
+    return Text{fields.number(0), fields.number(1),    fields.number(2),
+                fields.number(3), fields.text(4),      fields.text(5),
+                fields.number(6), fields.hexNumber(7), double(fields.number(8))};
+}
+
+std::optional<Records::TextBlock> Records::parseTextBlock(QStringView text)
+{
+    const qsizetype lineBreak = text.indexOf(u'\n');
+    if (lineBreak < 0)
+        return std::nullopt;
+    const QStringView body = text.sliced(lineBreak + 1);
+    const qsizetype end = body.indexOf(textblockEnd());
+    const Fields header(text.first(lineBreak));
+    if (end < 0 || header.count() < textblockFields)
+        return std::nullopt;
+    return TextBlock{header.number(0), header.number(1), header.number(2), header.number(3),
+                     body.first(end).toString()};
+}
+
+QStringView Records::fieldsOf(QStringView record)
+{
+    const QStringView keyword = keywordOf(record);
+    return keyword.isEmpty() ? QStringView() : record.sliced(keyword.size() + 1);
+}
+
 Records::Record Records::parse(QStringView record)
 {
     const QStringView keyword = keywordOf(record);
@@ -268,7 +301,7 @@ Records::Record Records::parse(QStringView record)
                      [keyword](const Reader &r) { return r.kind.keyword == keyword; });
     if (reader == readers().cend())
         return {};
-    return reader->parse(reader->kind.keyword, record.sliced(keyword.size() + 1));
+    return reader->parse(reader->kind.keyword, fieldsOf(record));
 }
 
 QString Records::pageCountLine(int pageCount)

@@ -4,6 +4,7 @@
 #include <QRgb>
 #include <QString>
 
+#include <optional>
 #include <variant>
 
 /**
@@ -44,6 +45,15 @@ struct Kind
 
 /** The nine kinds of records and the page-count line. */
 const QList<Kind> &kinds();
+
+/** True if this line begins a text block, whose record goes on to isBlockEnd(). */
+bool isBlockBegin(QStringView line);
+
+/** True if this line is nothing but the end of a text block. */
+bool isBlockEnd(QStringView line);
+
+/** A text block's rectangle is this much wider than the text in it may be, in scene units. */
+inline constexpr double widthBesideText = 1.0;
 
 /** A glyph. */
 struct Bitmap
@@ -112,6 +122,17 @@ using Record = std::variant<std::monostate, Bitmap, TimeSig, Vector, Text, TextB
  * keyword, too few fields, or a text block without its end gives an empty Record.
  */
 Record parse(QStringView record);
+
+// Reads what stands behind the keyword and its blank, under the same rules.
+
+std::optional<Bitmap> parseBitmap(QStringView fields);
+std::optional<TimeSig> parseTimeSig(QStringView fields);
+std::optional<Vector> parseVector(const QString &keyword, QStringView fields);
+std::optional<Text> parseText(QStringView fields);
+std::optional<TextBlock> parseTextBlock(QStringView fields);
+
+/** What stands behind the keyword and its blank; empty if there is no keyword. */
+QStringView fieldsOf(QStringView record);
 
 /** The keyword of a record: the text before its first blank, or nothing. */
 QStringView keywordOf(QStringView record);

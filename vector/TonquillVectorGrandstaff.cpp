@@ -6,10 +6,17 @@
 
 #include <QPainter>
 
+const FigureKind &TonquillVectorGrandstaff::figure()
+{
+    static const FigureKind kind{Type, Records::grandstaffKeyword(), QPointF(70, 70),
+                                 FigureKind::Anchors::AtPoints,
+                                 makeFigure<TonquillVectorGrandstaff>};
+    return kind;
+}
+
 TonquillVectorGrandstaff::TonquillVectorGrandstaff(bool adding, QPointF start, QPointF end,
                                                    QGraphicsItem *parent)
-    : TonquillVectorItem({Type, Records::grandstaffKeyword(), QPointF(70, 70), Anchors::AtPoints},
-                         adding, start, end, parent)
+    : TonquillVectorItem(figure(), adding, start, end, parent)
 {}
 
 void TonquillVectorGrandstaff::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)

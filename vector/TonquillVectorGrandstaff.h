@@ -10,6 +10,9 @@ class TonquillVectorGrandstaff : public TonquillVectorItem
 public:
     enum { Type = UserType + 4 };
 
+    /** What makes it this figure. */
+    static const FigureKind &figure();
+
     TonquillVectorGrandstaff(bool adding, QPointF start, QPointF end,
                              QGraphicsItem *parent = nullptr);
 

@@ -6,11 +6,17 @@
 
 #include <QPainter>
 
+const FigureKind &TonquillVectorInteractiveLine::figure()
+{
+    static const FigureKind kind{Type, Records::interactivelineKeyword(), QPointF(100, 0),
+                                 FigureKind::Anchors::AtCornersOfItsBounds,
+                                 makeFigure<TonquillVectorInteractiveLine>};
+    return kind;
+}
+
 TonquillVectorInteractiveLine::TonquillVectorInteractiveLine(bool adding, QPointF start,
                                                              QPointF end, QGraphicsItem *parent)
-    : TonquillVectorItem(
-          {Type, Records::interactivelineKeyword(), QPointF(100, 0), Anchors::AtCornersOfItsBounds},
-          adding, start, end, parent)
+    : TonquillVectorItem(figure(), adding, start, end, parent)
 {}
 
 void TonquillVectorInteractiveLine::paint(QPainter *painter, const QStyleOptionGraphicsItem *,

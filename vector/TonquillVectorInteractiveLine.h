@@ -10,6 +10,9 @@ class TonquillVectorInteractiveLine : public TonquillVectorItem
 public:
     enum { Type = UserType + 5 };
 
+    /** What makes it this figure. */
+    static const FigureKind &figure();
+
     TonquillVectorInteractiveLine(bool adding, QPointF start, QPointF end,
                                   QGraphicsItem *parent = nullptr);
 

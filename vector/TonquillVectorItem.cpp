@@ -5,8 +5,8 @@
 
 #include <QGraphicsSceneMouseEvent>
 
-TonquillVectorItem::TonquillVectorItem(const Kind &kind, bool adding, QPointF start, QPointF end,
-                                       QGraphicsItem *parent)
+TonquillVectorItem::TonquillVectorItem(const FigureKind &kind, bool adding, QPointF start,
+                                       QPointF end, QGraphicsItem *parent)
     : DocumentItemOf(adding, parent)
     , m_kind(kind)
     , m_font(ItemModel::largeBoldFont())
@@ -14,9 +14,7 @@ TonquillVectorItem::TonquillVectorItem(const Kind &kind, bool adding, QPointF st
     , m_end(adding ? kind.newEndPoint : end)
 {
     setSelected(adding);
-    frame().setAnchors(kind.anchors == Anchors::AtPoints
-                           ? QList<QPointF>{m_start, m_end}
-                           : QList<QPointF>{spannedRect().topLeft(), spannedRect().bottomRight()});
+    frame().setAnchors(kind.anchorsAt(m_start, m_end));
     setData(ItemData::keyword, kind.keyword);
 }
 

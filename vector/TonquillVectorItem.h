@@ -1,13 +1,14 @@
 #pragma once
 
 #include "DocumentItem.h"
+#include "FigureKind.h"
 
 #include <QFont>
 #include <QGraphicsObject>
 
 /**
  * What the five figures stretched between two points share: their points and anchors, placing in
- * two clicks, moving and resizing, and their record. What differs is a Kind and one paint().
+ * two clicks, moving and resizing, and their record. What differs is a FigureKind and one paint().
  *
  * The points are in item coordinates (scene units, y down). A new item follows the pointer by its
  * start point until a click fixes that; then its end point follows until a second click.
@@ -18,6 +19,8 @@ class TonquillVectorItem : public DocumentItemOf<QGraphicsObject>
     Q_PROPERTY(int itemStatus READ itemStatus)
 
 public:
+    const FigureKind &kind() const { return m_kind; }
+
     QPointF startPoint() const { return m_start; }
     QPointF endPoint() const { return m_end; }
 
@@ -30,23 +33,9 @@ public Q_SLOTS:
     QString getParamStr();
 
 protected:
-    /** Where a figure's anchors are until the first resize moves one onto the pointer. */
-    enum class Anchors {
-        AtPoints,            ///< on the start and the end point
-        AtCornersOfItsBounds ///< on the top-left and the bottom-right corner
-    };
-
-    /** The values in which the figures differ. */
-    struct Kind
-    {
-        int type;            ///< QGraphicsItem::type()
-        QString keyword;     ///< the first word of the record
-        QPointF newEndPoint; ///< end point of an item that is being added
-        Anchors anchors;
-    };
-
-    /** With `adding` the two points are ignored: a new item has the kind's own. */
-    TonquillVectorItem(const Kind &kind, bool adding, QPointF start, QPointF end,
+    /** With `adding` the two points are ignored: a new item has the kind's own, which outlives it.
+     */
+    TonquillVectorItem(const FigureKind &kind, bool adding, QPointF start, QPointF end,
                        QGraphicsItem *parent);
 
     /** Called after a point moved, between the notice of new bounds and the repaint. */
@@ -62,7 +51,7 @@ protected:
 private:
     QRectF spannedRect() const;
 
-    Kind m_kind;
+    const FigureKind &m_kind;
     QFont m_font; ///< bold, 23 points; the figures are drawn in the painter's own font
     QPointF m_start;
     QPointF m_end;

@@ -6,11 +6,17 @@
 
 #include <QPainter>
 
+const FigureKind &TonquillVectorLineTab::figure()
+{
+    static const FigureKind kind{Type, Records::linetabKeyword(), QPointF(70, 70),
+                                 FigureKind::Anchors::AtCornersOfItsBounds,
+                                 makeFigure<TonquillVectorLineTab>};
+    return kind;
+}
+
 TonquillVectorLineTab::TonquillVectorLineTab(bool adding, QPointF start, QPointF end,
                                              QGraphicsItem *parent)
-    : TonquillVectorItem(
-          {Type, Records::linetabKeyword(), QPointF(70, 70), Anchors::AtCornersOfItsBounds}, adding,
-          start, end, parent)
+    : TonquillVectorItem(figure(), adding, start, end, parent)
 {}
 
 void TonquillVectorLineTab::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)

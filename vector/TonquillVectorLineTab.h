@@ -10,6 +10,9 @@ class TonquillVectorLineTab : public TonquillVectorItem
 public:
     enum { Type = UserType + 6 };
 
+    /** What makes it this figure. */
+    static const FigureKind &figure();
+
     TonquillVectorLineTab(bool adding, QPointF start, QPointF end, QGraphicsItem *parent = nullptr);
 
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;

@@ -5,10 +5,16 @@
 
 #include <QPainter>
 
+const FigureKind &TonquillVectorNoteTie::figure()
+{
+    static const FigureKind kind{Type, Records::notetieKeyword(), QPointF(100, 0),
+                                 FigureKind::Anchors::AtPoints, makeFigure<TonquillVectorNoteTie>};
+    return kind;
+}
+
 TonquillVectorNoteTie::TonquillVectorNoteTie(bool adding, QPointF start, QPointF end,
                                              QGraphicsItem *parent)
-    : TonquillVectorItem({Type, Records::notetieKeyword(), QPointF(100, 0), Anchors::AtPoints},
-                         adding, start, end, parent)
+    : TonquillVectorItem(figure(), adding, start, end, parent)
     , m_shape(VectorShapes::tie(startPoint(), endPoint()))
 {}
 

@@ -11,6 +11,9 @@ class TonquillVectorNoteTie : public TonquillVectorItem
 public:
     enum { Type = UserType + 7 };
 
+    /** What makes it this figure. */
+    static const FigureKind &figure();
+
     TonquillVectorNoteTie(bool adding, QPointF start, QPointF end, QGraphicsItem *parent = nullptr);
 
     /** The arc's rectangle, which also covers the item's origin. */

@@ -6,11 +6,17 @@
 
 #include <QPainter>
 
+const FigureKind &TonquillVectorTriplet::figure()
+{
+    static const FigureKind kind{Type, Records::tripletKeyword(), QPointF(100, 0),
+                                 FigureKind::Anchors::AtCornersOfItsBounds,
+                                 makeFigure<TonquillVectorTriplet>};
+    return kind;
+}
+
 TonquillVectorTriplet::TonquillVectorTriplet(bool adding, QPointF start, QPointF end,
                                              QGraphicsItem *parent)
-    : TonquillVectorItem(
-          {Type, Records::tripletKeyword(), QPointF(100, 0), Anchors::AtCornersOfItsBounds}, adding,
-          start, end, parent)
+    : TonquillVectorItem(figure(), adding, start, end, parent)
 {}
 
 void TonquillVectorTriplet::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)

@@ -10,6 +10,9 @@ class TonquillVectorTriplet : public TonquillVectorItem
 public:
     enum { Type = UserType + 8 };
 
+    /** What makes it this figure. */
+    static const FigureKind &figure();
+
     TonquillVectorTriplet(bool adding, QPointF start, QPointF end, QGraphicsItem *parent = nullptr);
 
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;

@@ -1,5 +1,6 @@
 #include "DocumentBounds.h"
 
+#include "DocumentLimits.h"
 #include "EmbeddedPicture.h"
 #include "HtmlOutline.h"
 #include "TextExtent.h"
@@ -11,43 +12,17 @@
 
 namespace
 {
-using namespace ItemState;
-
-bool isNear(double value)
-{
-    return std::fabs(value) <= DocumentBounds::farthest;
-}
+using namespace DocumentLimits;
 
 bool isNear(QPointF point)
 {
-    return isNear(point.x()) && isNear(point.y());
+    return std::fabs(point.x()) <= farthest && std::fabs(point.y()) <= farthest;
 }
 
-bool liesNear(const Glyph &item)
+bool liesNear(const ItemState &item)
 {
-    return isNear(item.position);
-}
-
-bool liesNear(const TimeSignature &item)
-{
-    return isNear(item.position);
-}
-
-bool liesNear(const Figure &item)
-{
-    return isNear(item.position) && isNear(item.start) && isNear(item.end) &&
-           (!item.anchors || (isNear(item.anchors->first) && isNear(item.anchors->second)));
-}
-
-bool liesNear(const Text &item)
-{
-    return isNear(item.position);
-}
-
-bool liesNear(const TextBlock &item)
-{
-    return isNear(item.position) && isNear(item.topLeft) && isNear(item.bottomRight) &&
-           isNear(item.textWidth);
+    const QList<QPointF> points = item.points();
+    return isNear(item.position()) && std::all_of(points.cbegin(), points.cend(), isNear);
 }
 
 qint64 pixelsOf(const QStringList &pictures)
@@ -74,29 +49,25 @@ QString DocumentBounds::tablesTooLarge()
     return tr("The tables in this text are too large.");
 }
 
-QString DocumentBounds::problemOf(const Any &item)
+QString DocumentBounds::problemOf(const ItemState &item)
 {
     if (m_items >= mostItems)
         return tooManyItems();
-    if (!std::visit([](const auto &one) { return liesNear(one); }, item))
+    if (!liesNear(item))
         return tr("The item is too large or too far away.");
-    const QString problem = problemOfText(item);
+    const std::optional<TextContent> text = item.content();
+    const QString problem = text ? problemOfText(*text) : QString();
     if (problem.isEmpty())
         ++m_items;
     return problem;
 }
 
-QString DocumentBounds::problemOfText(const Any &item)
+QString DocumentBounds::problemOfText(const TextContent &text)
 {
-    if (const auto *text = std::get_if<Text>(&item))
-        return problemOfExtent(TextExtent(*text));
-    const auto *block = std::get_if<TextBlock>(&item);
-    if (!block)
-        return QString();
-    const QString problem = block->isHtml ? problemOfHtml(block->text) : QString();
+    const QString problem = text.isHtml ? problemOfHtml(text.text) : QString();
     if (!problem.isEmpty())
         return problem;
-    const TextExtent extent(*block);
+    const TextExtent extent(text);
     const QString problemThen = problemOfTables(extent);
     return problemThen.isEmpty() ? problemOfExtent(extent) : problemThen;
 }

@@ -2,23 +2,26 @@
 
 #include "AtomicFile.h"
 #include "DocumentBounds.h"
-#include "DocumentReader.h"
-#include "ItemRecords.h"
+#include "DocumentFileReader.h"
+#include "DocumentFormat.h"
+#include "DocumentLimits.h"
+#include "ItemKinds.h"
+#include "LineFields.h"
 #include "OrdinaryFile.h"
+
+#include <QCoreApplication>
 
 #include <new>
 
 namespace
 {
-constexpr qsizetype mostProblemsShown = 8;
-
 QByteArray paperLine(const Paper &paper)
 {
-    QByteArray line("tonquill_paper");
+    QByteArrayList fields;
     for (const double value : {paper.size.width(), paper.size.height(), paper.frame.left(),
                                paper.frame.top(), paper.frame.width(), paper.frame.height()})
-        line += ' ' + ItemRecords::number(value).toLatin1();
-    return line;
+        fields.append(LineFields::number(value));
+    return DocumentFormat::paperKeyword.toLatin1() + fields.join(' ');
 }
 
 /** A line behind the reason why a document was not saved. */
@@ -37,20 +40,27 @@ QString whatIsLeft(AtomicFile::Left left)
     return QString();
 }
 
+/** True if the line is that of an item with text. */
+bool hasText(const QByteArray &line)
+{
+    const QByteArrayView keyword = QByteArrayView(line).first(qMax(line.indexOf(' '), 0));
+    const ItemKind *kind = ItemKinds::catalogue().ofLine(keyword);
+    return kind && kind->hasText;
+}
+
 /**
  * Why the document could not be opened again as a whole; empty if it could. Only texts can get
  * there by hand, by what is pasted into them.
  */
 QString problemOfReading(const QList<QByteArray> &items)
 {
-    static const QByteArray everyText("tonquill_text");
-    if (items.size() > DocumentBounds::mostItems)
+    if (items.size() > DocumentLimits::mostItems)
         return DocumentBounds::tooManyItems();
     DocumentBounds bounds;
     for (const QByteArray &line : items) {
-        if (!line.startsWith(everyText))
+        if (!hasText(line))
             continue;
-        const auto text = ItemRecords::parse(QString::fromUtf8(line));
+        const auto text = ItemKinds::catalogue().readLine(QString::fromUtf8(line));
         const QString problem = text ? bounds.problemOf(*text) : QString();
         if (!problem.isEmpty())
             return problem;
@@ -65,34 +75,21 @@ QString noMemory()
 }
 } // namespace
 
-QString DocumentFile::Reading::problemText() const
-{
-    QStringList lines;
-    for (const Problem &problem : problems.first(qMin(problems.size(), mostProblemsShown))) {
-        lines.append(problem.line > 0 ? QCoreApplication::translate("DocumentFile", "Line %1: %2")
-                                            .arg(QString::number(problem.line), problem.text)
-                                      : problem.text);
-    }
-    if (problems.size() > mostProblemsShown)
-        lines.append(QCoreApplication::translate("DocumentFile", "… and %1 more.")
-                         .arg(problems.size() - mostProblemsShown));
-    return lines.join(u'\n');
-}
-
 QByteArray DocumentFile::format(const DocumentSnapshot &document)
 {
-    QByteArray bytes("tonquill-document " + QByteArray::number(version) + '\n');
-    bytes += "tonquill_pagecount " + QByteArray::number(document.pageCount) + '\n';
+    using namespace DocumentFormat;
+    QByteArray bytes = headerKeyword.toLatin1() + QByteArray::number(version) + '\n';
+    bytes += pageCountKeyword.toLatin1() + QByteArray::number(document.pageCount) + '\n';
     bytes += paperLine(document.paper) + '\n';
     for (const QByteArray &line : document.items)
         bytes += line + '\n';
-    return bytes + "tonquill-end\n";
+    return bytes + endLine.toLatin1() + '\n';
 }
 
 DocumentFile::Reading DocumentFile::parse(const QByteArray &bytes, const Paper &defaultPaper)
 {
     try {
-        return DocumentReader(defaultPaper).read(bytes);
+        return DocumentFileReader(defaultPaper).read(bytes);
     } catch (const std::bad_alloc &) {
         Reading failed;
         failed.problems = {{0, noMemory()}};
@@ -102,7 +99,7 @@ DocumentFile::Reading DocumentFile::parse(const QByteArray &bytes, const Paper &
 
 qint64 DocumentFile::largestFile()
 {
-    return DocumentBounds::largestFile;
+    return DocumentLimits::largestFile;
 }
 
 DocumentFile::Reading DocumentFile::load(const QString &path, const Paper &defaultPaper)

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "DocumentSnapshot.h"
-#include "FileStamp.h"
+#include "DocumentReading.h"
 
-#include <QCoreApplication>
+#include <QByteArray>
 #include <QString>
 
 /**
@@ -14,28 +13,7 @@
  */
 namespace DocumentFile
 {
-/** The version that is written; newer ones are read as far as they are understood. */
-inline constexpr int version = 1;
-
-/** What is wrong with a line, counted from 1. */
-struct Problem
-{
-    int line = 0;
-    QString text;
-};
-
-/** What came of reading. */
-struct Reading
-{
-    DocumentSnapshot document; ///< all that could be read
-    QList<Problem> problems;   ///< empty if that is everything
-    bool isDocument = false;   ///< false: this is no document, there is nothing to offer
-    bool isOfHost = false;     ///< a plain document of the host link
-    FileStamp stamp;           ///< the file, if it was one
-
-    /** The problems as one text, a line each; many are summed up. */
-    QString problemText() const;
-};
+using Reading = DocumentReading;
 
 /** The bytes of a document's file. */
 QByteArray format(const DocumentSnapshot &document);

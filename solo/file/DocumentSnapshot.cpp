@@ -1,9 +1,9 @@
 #include "DocumentSnapshot.h"
 
-#include "ItemRecords.h"
+#include "DocumentItem.h"
+#include "ItemKinds.h"
 #include "PageGeometry.h"
 #include "PagePrinter.h"
-#include "SceneItems.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 #include "TonquillView.h"
@@ -28,12 +28,18 @@ void buildItems(TonquillMainWin &window, const QList<QByteArray> &lines,
 {
     const QBitArray selected = selection.toBits(lines.size());
     for (qsizetype i = 0; i < lines.size(); ++i) {
-        const auto state = ItemRecords::parse(QString::fromUtf8(lines[i]));
+        const auto state = ItemKinds::catalogue().readLine(QString::fromUtf8(lines[i]));
         if (!state)
             continue;
-        QGraphicsItem *item = SceneItems::build(window, *state);
+        QGraphicsItem *item = window.scene->buildItem(*state);
         item->setSelected(selected.testBit(i));
     }
+}
+
+bool isHeld(const QGraphicsItem *item)
+{
+    const DocumentItem *own = DocumentItem::of(item);
+    return own && own->isHeld();
 }
 } // namespace
 
@@ -73,10 +79,10 @@ DocumentSnapshot DocumentSnapshot::capture(const TonquillMainWin &window,
 {
     DocumentSnapshot snapshot{paperOf(window), window.pageCount, {}};
     for (QGraphicsItem *item : itemsOf(window)) {
-        const auto state = SceneItems::stateOf(item);
+        const auto state = ItemKinds::catalogue().stateOf(*item);
         if (!state)
             continue;
-        snapshot.items.append(ItemRecords::format(*state));
+        snapshot.items.append(state->line());
         if (read)
             read->append(item);
     }
@@ -103,5 +109,5 @@ void DocumentSnapshot::restore(TonquillMainWin &window, const ItemSelection &sel
 bool DocumentSnapshot::isItemHeld(const TonquillMainWin &window)
 {
     const QList<QGraphicsItem *> selected = window.scene->selectedItems();
-    return std::any_of(selected.cbegin(), selected.cend(), SceneItems::isHeld);
+    return std::any_of(selected.cbegin(), selected.cend(), isHeld);
 }

@@ -21,7 +21,7 @@ struct Paper
 };
 
 /**
- * A document as it is at one moment: paper, number of pages, and a line of ItemRecords for each
+ * A document as it is at one moment: paper, number of pages, and a line of the file for each
  * item, from the lowest to the topmost. Copies share their lines.
  */
 struct DocumentSnapshot

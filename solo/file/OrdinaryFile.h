@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DocumentBounds.h"
+#include "DocumentLimits.h"
 
 #include <QByteArray>
 #include <QString>
@@ -19,8 +19,8 @@ struct Contents
 };
 
 /** What is wrong with a file of so many bytes; empty if nothing is. */
-QString problemOfSize(qint64 bytes, qint64 largest = DocumentBounds::largestFile);
+QString problemOfSize(qint64 bytes, qint64 largest = DocumentLimits::largestFile);
 
 /** Reads a file of at most `largest` bytes. */
-Contents read(const QString &path, qint64 largest = DocumentBounds::largestFile);
+Contents read(const QString &path, qint64 largest = DocumentLimits::largestFile);
 } // namespace OrdinaryFile

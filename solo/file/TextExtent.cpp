@@ -1,6 +1,6 @@
 #include "TextExtent.h"
 
-#include "DocumentBounds.h"
+#include "DocumentLimits.h"
 #include "SelfContainedText.h"
 
 #include <QFont>
@@ -21,7 +21,7 @@ constexpr double lineSpacing = 1.6;
 /** Sizes of letters that go by names are at most this much larger than their surroundings. */
 constexpr double mostAdjustment = 3;
 
-double pixelsOf(const ItemState::Font &font)
+double pixelsOf(const FontState &font)
 {
     return font.sizeInPixels ? font.size : font.size * pixelsPerPoint;
 }
@@ -58,16 +58,10 @@ double lengthOf(int property, const QVariant &value)
 }
 } // namespace
 
-TextExtent::TextExtent(const ItemState::TextBlock &block)
-    : m_width(block.textWidth)
+TextExtent::TextExtent(const TextContent &text)
+    : m_width(text.width)
 {
-    block.isHtml ? measureHtml(block) : measurePlain(block.text, block.font);
-}
-
-TextExtent::TextExtent(const ItemState::Text &text)
-    : m_width(-1)
-{
-    measurePlain(text.text, text.font);
+    text.isHtml ? measureHtml(text) : measurePlain(text);
 }
 
 void TextExtent::count(const QString &text)
@@ -94,36 +88,36 @@ double TextExtent::linesOf(QStringView paragraph, double pixels) const
     return own + std::min(letters, 2 * letters * pixels / std::max(m_width, 1.0));
 }
 
-void TextExtent::measurePlain(const QString &text, const ItemState::Font &usedFont)
+void TextExtent::measurePlain(const TextContent &text)
 {
-    count(text);
-    const double pixels = pixelsOf(usedFont);
-    const QList<QStringView> lines = QStringView(text).split(u'\n');
+    count(text.text);
+    const double pixels = pixelsOf(text.font);
+    const QList<QStringView> lines = QStringView(text.text).split(u'\n');
     for (const QStringView line : lines)
         m_height += linesOf(line, pixels) * pixels * lineSpacing;
-    if (m_height <= DocumentBounds::highestText || m_wordSquares > DocumentBounds::mostWordSquares)
+    if (m_height <= DocumentLimits::highestText || m_wordSquares > DocumentLimits::mostWordSquares)
         return;
     // Much text or large letters: only trying tells.
-    QFont font(usedFont.family);
+    QFont font(text.font.family);
     font.setPixelSize(std::max(1, int(std::ceil(pixels))));
     m_height = 0;
     for (const QStringView line : lines) {
         QTextLayout layout(line.toString(), font);
         layout.beginLayout();
         for (QTextLine one = layout.createLine(); one.isValid(); one = layout.createLine()) {
-            one.setLineWidth(m_width < 0 ? DocumentBounds::highestText : m_width);
+            one.setLineWidth(m_width < 0 ? DocumentLimits::highestText : m_width);
             m_height += one.height();
         }
         layout.endLayout();
-        if (m_height > DocumentBounds::highestText)
+        if (m_height > DocumentLimits::highestText)
             return;
     }
 }
 
-void TextExtent::measureHtml(const ItemState::TextBlock &block)
+void TextExtent::measureHtml(const TextContent &text)
 {
     SelfContainedText document;
-    document.setHtml(block.text);
+    document.setHtml(text.text);
     count(document.toRawText());
     measureTables(*document.rootFrame(), 0);
     for (const QTextFormat &format : document.allFormats())
@@ -134,10 +128,10 @@ void TextExtent::measureHtml(const ItemState::TextBlock &block)
     double places = 1;
     for (QTextBlock part = document.begin(); part.isValid(); part = part.next()) {
         ++places;
-        double pixels = pixelsOf(block.font);
+        double pixels = pixelsOf(text.font);
         for (auto at = part.begin(); !at.atEnd(); ++at) {
             const QTextFragment fragment = at.fragment();
-            pixels = std::max(pixels, pixelsOf(fragment.charFormat(), pixelsOf(block.font)));
+            pixels = std::max(pixels, pixelsOf(fragment.charFormat(), pixelsOf(text.font)));
             places += double(fragment.text().count(QChar::ObjectReplacementCharacter));
         }
         m_height += linesOf(part.text(), pixels) * pixels * lineSpacing * m_perLine;

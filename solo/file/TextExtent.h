@@ -13,8 +13,7 @@ class QTextFrame;
 class TextExtent
 {
 public:
-    explicit TextExtent(const ItemState::TextBlock &block);
-    explicit TextExtent(const ItemState::Text &text);
+    explicit TextExtent(const TextContent &text);
 
     /** Scene units down; rather too much than too little, but for plain text if it is much. */
     double height() const { return m_height; }
@@ -36,8 +35,8 @@ public:
 private:
     void count(const QString &text);
     double linesOf(QStringView paragraph, double pixels) const;
-    void measurePlain(const QString &text, const ItemState::Font &font);
-    void measureHtml(const ItemState::TextBlock &block);
+    void measurePlain(const TextContent &text);
+    void measureHtml(const TextContent &text);
     void measureFormat(const QTextFormat &format);
     void measureTables(const QTextFrame &around, qsizetype depth);
 

@@ -1,7 +1,6 @@
 #include "DocumentPatch.h"
 
-#include "ItemRecords.h"
-#include "SceneItems.h"
+#include "ItemKinds.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 #include "TonquillTextBlock.h"
@@ -31,8 +30,8 @@ bool isBusy(const TonquillMainWin &window)
 
 QByteArray lineOf(const QGraphicsItem *item)
 {
-    const auto state = SceneItems::stateOf(item);
-    return state ? ItemRecords::format(*state) : QByteArray();
+    const auto state = ItemKinds::catalogue().stateOf(*item);
+    return state ? state->line() : QByteArray();
 }
 
 /** True if `items` are those that the lines were written of, as far as the hunks tell. */
@@ -54,12 +53,12 @@ bool matches(const QList<QGraphicsItem *> &items, const Hunks &hunks, qsizetype 
 }
 
 /** The states of all newer lines, hunk by hunk; nothing if one cannot be read. */
-std::optional<QList<ItemState::Any>> newStates(const Hunks &hunks)
+std::optional<QList<ItemState>> newStates(const Hunks &hunks)
 {
-    QList<ItemState::Any> states;
+    QList<ItemState> states;
     for (const UndoHistory::Hunk &hunk : hunks) {
         for (const QByteArray &line : hunk.newer) {
-            const auto state = ItemRecords::parse(QString::fromUtf8(line));
+            const auto state = ItemKinds::catalogue().readLine(QString::fromUtf8(line));
             if (!state)
                 return std::nullopt;
             states.append(*state);
@@ -97,7 +96,7 @@ std::optional<DocumentPatch::Shown> DocumentPatch::apply(TonquillMainWin &window
         next = hunk.at + hunk.older.size();
         const QGraphicsItem *above = items.value(next);
         for (qsizetype i = hunk.at; i < hunk.at + hunk.newer.size(); ++i) {
-            QGraphicsItem *item = SceneItems::build(window, *state++);
+            QGraphicsItem *item = window.scene->buildItem(*state++);
             putBelow(item, above);
             shown.items.append(item);
             shown.document.items[i] = lineOf(item);

@@ -2,6 +2,7 @@
 
 #include "AtomicFile.h"
 #include "DocumentFile.h"
+#include "DocumentLimits.h"
 #include "OrdinaryFile.h"
 
 #include <QDir>
@@ -14,7 +15,7 @@ namespace
 const QByteArray header = QByteArrayLiteral("tonquill-recovery ");
 
 /** A document as large as any, and the journal's first line. */
-constexpr qint64 largestJournal = DocumentBounds::largestFile + 64 * 1024;
+constexpr qint64 largestJournal = DocumentLimits::largestFile + 64 * 1024;
 
 constexpr QFile::Permissions ownersFolder = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
 } // namespace

@@ -1,14 +1,15 @@
 #include "HostInbox.h"
 
 #include "HostMessages.h"
+#include "Records.h"
 
 #include <utility>
 
 namespace
 {
-const QByteArray prefix = QByteArrayLiteral("tonquill2tw ");
-const QByteArray blockBegin = QByteArrayLiteral("tonquill_textblock_begin ");
-const QByteArray blockEnd = QByteArrayLiteral("tonquill_textblock_end\n");
+const QByteArray prefix = HostMessages::toHost.toLatin1();
+const QByteArray blockBegin = Records::textblockKeyword().toLatin1() + ' ';
+const QByteArray blockEnd = Records::textblockEnd().toLatin1() + '\n';
 const QByteArray commandBegin = QByteArrayLiteral("command:");
 
 const QList<std::pair<QByteArray, HostInbox::Message>> &commands()

@@ -1,6 +1,6 @@
 #include "DocumentFile.h"
 #include "FuzzEditor.h"
-#include "ItemRecords.h"
+#include "TextBlockState.h"
 
 #include <QImage>
 #include <QPainter>
@@ -33,14 +33,14 @@ int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
     constexpr double wrap = 300;
     const QString html =
         QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
-    const ItemState::TextBlock block{QPointF(20, 20),
-                                     QPointF(0, 0),
-                                     QPointF(wrap, wrap),
-                                     wrap,
-                                     ItemState::Font{QStringLiteral("Arial"), 12},
-                                     html,
-                                     true};
-    show(read(ItemRecords::format(block), paper));
+    const TextBlockState block{QPointF(20, 20),
+                               QPointF(0, 0),
+                               QPointF(wrap, wrap),
+                               wrap,
+                               FontState{QStringLiteral("Arial"), 12},
+                               html,
+                               true};
+    show(read(block.line(), paper));
     const DocumentSnapshot written = DocumentSnapshot::capture(FuzzEditor::window());
     if (!written.items.isEmpty())
         show(read(written.items.constFirst(), paper));

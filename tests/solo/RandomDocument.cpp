@@ -1,14 +1,20 @@
 #include "RandomDocument.h"
 
-#include "Records.h"
-#include "SceneItems.h"
+#include "FigureState.h"
+#include "GlyphState.h"
+#include "TextBlockState.h"
+#include "TextState.h"
+#include "TimeSignatureState.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
+#include "TonquillVectorGrandstaff.h"
+#include "TonquillVectorInteractiveLine.h"
+#include "TonquillVectorLineTab.h"
+#include "TonquillVectorNoteTie.h"
+#include "TonquillVectorTriplet.h"
 
 #include <QImage>
 #include <QPainter>
-
-using namespace ItemState;
 
 QPointF RandomDocument::point(double reach)
 {
@@ -20,10 +26,10 @@ QPointF RandomDocument::placeOnPage()
     return QPointF(m_random.bounded(700.0), m_random.bounded(3200.0));
 }
 
-Font RandomDocument::font()
+FontState RandomDocument::font()
 {
     const QStringList families{"Musica", "Courier New", "Verdana", "Times New Roman", "Arial"};
-    Font font;
+    FontState font;
     font.family = families[below(int(families.size()))];
     font.size = 1 + below(48);
     font.weight = below(2) ? QFont::Bold : QFont::Normal;
@@ -56,39 +62,40 @@ QString RandomDocument::text()
     return result;
 }
 
-Any RandomDocument::item()
+ItemState RandomDocument::item()
 {
     return item(below(9));
 }
 
-Any RandomDocument::item(int kind)
+ItemState RandomDocument::item(int kind)
 {
     if (kind == 0)
-        return Glyph{placeOnPage(), below(40), below(2) == 1};
+        return GlyphState{placeOnPage(), below(40), below(2) == 1};
     if (kind == 1)
-        return TimeSignature{placeOnPage(), 1 + below(20), 1 + below(16)};
+        return TimeSignatureState{placeOnPage(), 1 + below(20), 1 + below(16)};
     if (kind == 2) {
-        return Text{placeOnPage(), text(), font(), QColor::fromRgb(m_random.generate()),
-                    below(2) ? m_random.bounded(360.0) : 0.0};
+        return TextState{placeOnPage(), text(), font(), QColor::fromRgb(m_random.generate()),
+                         below(2) ? m_random.bounded(360.0) : 0.0};
     }
     if (kind == 3) {
-        return TextBlock{
+        return TextBlockState{
             placeOnPage(), QPointF(0, 0),           point(300), double(20 + below(300)),
             font(),        text() + u'\n' + text(), false};
     }
-    const QStringList figures{Records::grandstaffKeyword(), Records::interactivelineKeyword(),
-                              Records::linetabKeyword(), Records::notetieKeyword(),
-                              Records::tripletKeyword()};
-    Figure figure{placeOnPage(), figures[kind - 4], point(200), point(200), std::nullopt};
+    const QList<const FigureKind *> figures{
+        &TonquillVectorGrandstaff::figure(), &TonquillVectorInteractiveLine::figure(),
+        &TonquillVectorLineTab::figure(), &TonquillVectorNoteTie::figure(),
+        &TonquillVectorTriplet::figure()};
+    FigureState figure{placeOnPage(), figures[kind - 4], point(200), point(200), std::nullopt};
     if (below(3) == 0)
-        figure.anchors = Figure::Anchors(point(100), point(100));
+        figure.anchors = FigureState::Anchors(point(100), point(100));
     return figure;
 }
 
 void RandomDocument::fill(TonquillMainWin &window, int count)
 {
     for (int i = 0; i < count; ++i)
-        SceneItems::build(window, item());
+        window.scene->buildItem(item());
 }
 
 QList<QImage> RandomDocument::pictures(TonquillMainWin &window)

@@ -16,10 +16,10 @@ public:
     {}
 
     /** Any of the nine kinds. */
-    ItemState::Any item();
+    ItemState item();
 
     /** One of the kinds, counted from 0 to 8. */
-    ItemState::Any item(int kind);
+    ItemState item(int kind);
 
     /** A number from 0 up to but without `bound`. */
     int below(int bound) { return m_random.bounded(bound); }
@@ -33,7 +33,7 @@ public:
 private:
     QPointF point(double reach);
     QPointF placeOnPage();
-    ItemState::Font font();
+    FontState font();
     QString text();
 
     QRandomGenerator m_random;

@@ -3,9 +3,10 @@
 #include "LongPrint.h"
 #include "ModalAnswer.h"
 #include "QuotedFields.h"
-#include "SceneItems.h"
 #include "SoloTestMain.h"
 #include "SoloWindow.h"
+#include "TextBlockState.h"
+#include "TextState.h"
 #include "TonquillScene.h"
 
 #include <QFileDialog>
@@ -225,7 +226,7 @@ void ExporterTest::nothingInADrawingIsMoreThanText()
     QFETCH(QString, family);
     QFETCH(QString, written);
     const QString words = "la</text>\"<b>&\x02" + QString(QChar(0xfffe)) + "\" onload=\"x";
-    const ItemState::Font font{family, 12, false, 400, QFont::StyleNormal, false};
+    const FontState font{family, 12, false, 400, QFont::StyleNormal, false};
     QImage red(3, 3, QImage::Format_RGB32);
     red.fill(Qt::red);
     QBuffer png;
@@ -235,11 +236,11 @@ void ExporterTest::nothingInADrawingIsMoreThanText()
                 "<img src=\"data:image/png;base64,%2\"></p>")
             .arg(family.toHtmlEscaped(), png.data().toBase64());
     TonquillMainWin &window = m_solo->window();
-    SceneItems::build(window, ItemState::Text{QPointF(90, 90), words, font, Qt::red, 0});
-    SceneItems::build(window, ItemState::TextBlock{QPointF(90, 200), QPointF(), QPointF(300, 90),
-                                                   299, font, words, false});
-    SceneItems::build(window, ItemState::TextBlock{QPointF(90, 400), QPointF(), QPointF(300, 90),
-                                                   299, font, html, true});
+    window.scene->buildItem(TextState{QPointF(90, 90), words, font, Qt::red, 0});
+    window.scene->buildItem(
+        TextBlockState{QPointF(90, 200), QPointF(), QPointF(300, 90), 299, font, words, false});
+    window.scene->buildItem(
+        TextBlockState{QPointF(90, 400), QPointF(), QPointF(300, 90), 299, font, html, true});
     const QString svg = m_folder->filePath("a.svg");
     QCOMPARE(Exporter(window).write(svg, ExportOptions()), QString());
 

@@ -1,6 +1,6 @@
 #include "DocumentFile.h"
 #include "FullDisk.h"
-#include "ItemRecords.h"
+#include "ItemKinds.h"
 #include "QuotedFields.h"
 #include "SoloTestMain.h"
 
@@ -419,7 +419,7 @@ void DocumentFileTest::readingSurvivesAnyBytes()
             bytes[random.bounded(int(bytes.size()))] = char(random.bounded(256));
         const DocumentFile::Reading reading = DocumentFile::parse(bytes, a4);
         for (const QByteArray &line : reading.document.items)
-            QVERIFY(ItemRecords::parse(QString::fromUtf8(line)).has_value());
+            QVERIFY(ItemKinds::catalogue().readLine(QString::fromUtf8(line)).has_value());
     }
 }
 

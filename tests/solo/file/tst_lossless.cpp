@@ -1,11 +1,13 @@
 #include "DocumentFile.h"
 #include "EditWatcher.h"
+#include "FigureState.h"
+#include "ItemKinds.h"
 #include "RandomDocument.h"
-#include "SceneItems.h"
 #include "SoloTestMain.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 #include "TonquillTextBlock.h"
+#include "TonquillVectorInteractiveLine.h"
 
 #include <QGraphicsTextItem>
 
@@ -86,14 +88,14 @@ void LosslessTest::formattedTextSurvives()
 void LosslessTest::figuresKeepTheirAnchors()
 {
     TonquillMainWin window(TonquillMainWin::HostConnection::Later);
-    const ItemState::Figure resized{{100, 100},
-                                    "tonquill_interactiveline",
-                                    {0, 0},
-                                    {80, -50},
-                                    ItemState::Figure::Anchors({0, -50}, {80, -50})};
-    SceneItems::build(window, resized);
+    const FigureState resized{{100, 100},
+                              &TonquillVectorInteractiveLine::figure(),
+                              {0, 0},
+                              {80, -50},
+                              FigureState::Anchors({0, -50}, {80, -50})};
+    window.scene->buildItem(resized);
     DocumentSnapshot::capture(window).restore(window);
-    QVERIFY(SceneItems::stateOf(itemsOf(window).constFirst()) == ItemState::Any(resized));
+    QVERIFY(ItemKinds::catalogue().stateOf(*itemsOf(window).constFirst()) == ItemState(resized));
 }
 
 /** One edit of any kind that a user can make. */
@@ -103,7 +105,7 @@ void LosslessTest::editAtRandom(TonquillMainWin &window, RandomDocument &random)
     QGraphicsItem *item = items.isEmpty() ? nullptr : items[random.below(int(items.size()))];
     const int choice = random.below(8);
     if (!item || choice < 3) {
-        SceneItems::build(window, random.item());
+        window.scene->buildItem(random.item());
     } else if (choice == 3) {
         window.scene->destroyItems({item});
     } else if (choice == 4) {

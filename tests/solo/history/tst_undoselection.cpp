@@ -1,6 +1,5 @@
 #include "EditWatcher.h"
 #include "RandomDocument.h"
-#include "SceneItems.h"
 #include "SoloTestMain.h"
 #include "TonquillBitmap.h"
 #include "TonquillMainWin.h"
@@ -119,7 +118,7 @@ void UndoSelectionTest::undoingAPasteSelectsWhatWasCopied()
     RandomDocument random(1);
     for (int round = 0; round < rounds; ++round) {
         for (int kind = 0; kind < 9; ++kind)
-            SceneItems::build(*m_window, random.item(kinds < 0 ? kind : kinds));
+            m_window->scene->buildItem(random.item(kinds < 0 ? kind : kinds));
     }
     m_edits->reset();
     const int count = 9 * rounds;

@@ -1,7 +1,11 @@
-#include "DocumentReader.h"
+#include "DocumentFileReader.h"
 
-#include "HostDocument.h"
-#include "ItemRecords.h"
+#include "DocumentFormat.h"
+#include "DocumentLimits.h"
+#include "HostRecordReader.h"
+#include "ItemKinds.h"
+#include "LineFields.h"
+#include "Records.h"
 
 #include <QStringDecoder>
 
@@ -9,10 +13,9 @@
 
 namespace
 {
-const QString ownHeader = QStringLiteral("tonquill-document ");
-const QString endLine = QStringLiteral("tonquill-end");
-const QString pageCountKeyword = QStringLiteral("tonquill_pagecount ");
-const QString paperKeyword = QStringLiteral("tonquill_paper ");
+using namespace DocumentFormat;
+
+/** With this begins a document of the host link, which has no header. */
 const QString hostKeywordBegin = QStringLiteral("tonquill_");
 
 int lineNumber(qsizetype index)
@@ -21,10 +24,10 @@ int lineNumber(qsizetype index)
 }
 } // namespace
 
-DocumentFile::Reading DocumentReader::read(const QByteArray &bytes)
+DocumentReading DocumentFileReader::read(const QByteArray &bytes)
 {
-    if (bytes.size() > DocumentBounds::largestFile ||
-        bytes.count('\n') > DocumentBounds::mostLines) {
+    if (bytes.size() > DocumentLimits::largestFile ||
+        bytes.count('\n') > DocumentLimits::mostLines) {
         addProblem(0, tr("The file is larger than any document."));
         return m_reading;
     }
@@ -40,7 +43,7 @@ DocumentFile::Reading DocumentReader::read(const QByteArray &bytes)
     return m_reading;
 }
 
-void DocumentReader::splitLines(const QByteArray &bytes)
+void DocumentFileReader::splitLines(const QByteArray &bytes)
 {
     QStringDecoder decode(QStringDecoder::Utf8);
     QString text = decode(bytes);
@@ -58,27 +61,27 @@ void DocumentReader::splitLines(const QByteArray &bytes)
         m_lines.removeLast();
 }
 
-bool DocumentReader::readFirstLine()
+bool DocumentFileReader::readFirstLine()
 {
     const QString first = m_lines.value(0);
     bool isNumber = false;
     const int fileVersion =
-        QStringView(first).sliced(qMin(ownHeader.size(), first.size())).toInt(&isNumber);
-    if (!first.startsWith(ownHeader) || !isNumber) {
+        QStringView(first).sliced(qMin(headerKeyword.size(), first.size())).toInt(&isNumber);
+    if (!first.startsWith(headerKeyword) || !isNumber) {
         m_reading.problems = {{1, tr("This is not a Tonquill document.")}};
         return false;
     }
-    if (fileVersion > DocumentFile::version) {
+    if (fileVersion > version) {
         addProblem(1, tr("The document was written by a newer version of Tonquill (format %1; "
                          "this program knows %2).")
                           .arg(fileVersion)
-                          .arg(DocumentFile::version));
+                          .arg(version));
     }
     m_at = 1;
     return true;
 }
 
-void DocumentReader::readOwnLines()
+void DocumentFileReader::readOwnLines()
 {
     bool ended = false;
     for (; m_at < m_lines.size() && !ended; ++m_at) {
@@ -93,60 +96,60 @@ void DocumentReader::readOwnLines()
         addProblem(lineNumber(m_at), tr("There is more behind the document's end."));
 }
 
-void DocumentReader::readOwnItem(const QString &line)
+void DocumentFileReader::readOwnItem(const QString &line)
 {
     QStringList unknown;
-    addItem(ItemRecords::parse(line, &unknown), lineNumber(m_at));
+    addItem(ItemKinds::catalogue().readLine(line, &unknown), lineNumber(m_at));
     for (const QString &field : std::as_const(unknown))
         addProblem(lineNumber(m_at), tr("The field “%1” is not known.").arg(field));
 }
 
-void DocumentReader::readHostLines()
+void DocumentFileReader::readHostLines()
 {
     for (; m_at < m_lines.size(); ++m_at) {
         const QString &line = m_lines[m_at];
-        if (HostDocument::isBlockBegin(line))
+        if (Records::isBlockBegin(line))
             readHostBlock();
         else if (!line.isEmpty() && !readPageCount(line))
-            addItem(HostDocument::readRecord(line), lineNumber(m_at));
+            addItem(HostRecordReader::read(line), lineNumber(m_at));
     }
     // The host link writes the topmost item first.
     std::reverse(m_reading.document.items.begin(), m_reading.document.items.end());
 }
 
-void DocumentReader::readHostBlock()
+void DocumentFileReader::readHostBlock()
 {
     const qsizetype begin = m_at;
     QStringList text;
-    while (++m_at < m_lines.size() && !HostDocument::isBlockEnd(m_lines[m_at]))
+    while (++m_at < m_lines.size() && !Records::isBlockEnd(m_lines[m_at]))
         text.append(m_lines[m_at]);
     if (m_at == m_lines.size())
         addProblem(lineNumber(begin), tr("The end of this text block is missing."));
-    addItem(HostDocument::readBlock(m_lines[begin], text), lineNumber(begin));
+    addItem(HostRecordReader::readBlock(m_lines[begin], text), lineNumber(begin));
 }
 
-bool DocumentReader::readPageCount(const QString &line)
+bool DocumentFileReader::readPageCount(const QString &line)
 {
     if (!line.startsWith(pageCountKeyword))
         return false;
     bool isNumber = false;
     const int count = QStringView(line).sliced(pageCountKeyword.size()).toInt(&isNumber);
-    if (isNumber && count >= 1 && count <= DocumentBounds::mostPages)
+    if (isNumber && count >= 1 && count <= DocumentLimits::mostPages)
         m_reading.document.pageCount = count;
     else
         addProblem(lineNumber(m_at), tr("The number of pages cannot be right."));
     return true;
 }
 
-bool DocumentReader::readPaper(const QString &line)
+bool DocumentFileReader::readPaper(const QString &line)
 {
     if (!line.startsWith(paperKeyword))
         return false;
     QList<double> values;
     for (const QString &field : line.sliced(paperKeyword.size()).split(u' '))
-        values.append(ItemRecords::toNumber(field).value_or(-1));
+        values.append(LineFields::toNumber(field).value_or(-1));
     const auto fits = [](double value) {
-        return value >= 0 && value <= DocumentBounds::longestSheet;
+        return value >= 0 && value <= DocumentLimits::longestSheet;
     };
     if (values.size() == 6 && std::all_of(values.cbegin(), values.cend(), fits) && values[0] > 0 &&
         values[1] > 0)
@@ -157,16 +160,16 @@ bool DocumentReader::readPaper(const QString &line)
     return true;
 }
 
-void DocumentReader::addItem(const std::optional<ItemState::Any> &state, int line)
+void DocumentFileReader::addItem(const std::optional<ItemState> &state, int line)
 {
     const QString problem = state ? m_bounds.problemOf(*state) : tr("This record cannot be read.");
     if (problem.isEmpty())
-        m_reading.document.items.append(ItemRecords::format(*state));
+        m_reading.document.items.append(state->line());
     else
         addProblem(line, problem);
 }
 
-void DocumentReader::addProblem(int line, const QString &text)
+void DocumentFileReader::addProblem(int line, const QString &text)
 {
     m_reading.problems.append({line, text});
 }

@@ -1,15 +1,22 @@
-#include "ItemRecords.h"
+#include "FigureState.h"
+#include "GlyphState.h"
+#include "ItemKinds.h"
 #include "QuotedFields.h"
 #include "RandomDocument.h"
+#include "TextBlockState.h"
+#include "TextState.h"
+#include "TimeSignatureState.h"
+#include "TonquillVectorInteractiveLine.h"
+#include "TonquillVectorNoteTie.h"
 
 #include <QtTest>
 
-using namespace ItemState;
+using Any = std::optional<ItemState>;
 
-Q_DECLARE_METATYPE(ItemState::Any)
+Q_DECLARE_METATYPE(Any)
 
-/** The document file's records, written and read. */
-class ItemRecordsTest : public QObject
+/** The document file's lines, written and read. */
+class ItemLinesTest : public QObject
 {
     Q_OBJECT
 
@@ -25,68 +32,70 @@ private Q_SLOTS:
 
 namespace
 {
-Font times(double size)
+FontState times(double size)
 {
-    Font font;
+    FontState font;
     font.family = "Times New Roman";
     font.size = size;
     return font;
 }
 } // namespace
 
-void ItemRecordsTest::writesEachKindOnOneLine_data()
+void ItemLinesTest::writesEachKindOnOneLine_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<Any>("state");
     QTest::newRow("glyph") << QByteArray("tonquill_bitmap 12.5 -3 19")
-                           << Any(Glyph{{12.5, -3}, 19, false});
+                           << Any(GlyphState{{12.5, -3}, 19, false});
     QTest::newRow("inverted glyph")
-        << QByteArray("tonquill_bitmap 1 2 22 inverted=1") << Any(Glyph{{1, 2}, 22, true});
+        << QByteArray("tonquill_bitmap 1 2 22 inverted=1") << Any(GlyphState{{1, 2}, 22, true});
     QTest::newRow("time signature")
-        << QByteArray("tonquill_timesig 40 0.1 12 8") << Any(TimeSignature{{40, 0.1}, 12, 8});
+        << QByteArray("tonquill_timesig 40 0.1 12 8") << Any(TimeSignatureState{{40, 0.1}, 12, 8});
     QTest::newRow("tie") << QByteArray("tonquill_notetie 5 6 0 0 60.25 -4")
-                         << Any(Figure{{5, 6}, "tonquill_notetie", {0, 0}, {60.25, -4}, {}});
+                         << Any(FigureState{
+                                {5, 6}, &TonquillVectorNoteTie::figure(), {0, 0}, {60.25, -4}, {}});
     QTest::newRow("line with its own anchors")
         << QByteArray("tonquill_interactiveline 0 0 0 0 9 -5 anchors=\"0 -5 9 -5\"")
-        << Any(Figure{{0, 0},
-                      "tonquill_interactiveline",
-                      {0, 0},
-                      {9, -5},
-                      Figure::Anchors({0, -5}, {9, -5})});
-    Font bold = times(18);
+        << Any(FigureState{{0, 0},
+                           &TonquillVectorInteractiveLine::figure(),
+                           {0, 0},
+                           {9, -5},
+                           FigureState::Anchors({0, -5}, {9, -5})});
+    FontState bold = times(18);
     bold.weight = QFont::Bold;
     bold.style = QFont::StyleItalic;
     bold.underline = true;
     QTest::newRow("text") << QByteArray("tonquill_text 1 2 text=\"Allegro moderato\" "
                                         "font=\"Times New Roman\" size=18 weight=700 italic=1 "
                                         "underline=1 color=#ff0000 rotation=12.5")
-                          << Any(Text{{1, 2}, "Allegro moderato", bold, QColor(255, 0, 0), 12.5});
+                          << Any(TextState{
+                                 {1, 2}, "Allegro moderato", bold, QColor(255, 0, 0), 12.5});
     QTest::newRow("text block")
         << QByteArray("tonquill_textblock 1 2 0 0 101 50 wrap=100 font=\"Times New Roman\" "
                       "size=9 text=\"two\\nlines\"")
-        << Any(TextBlock{{1, 2}, {0, 0}, {101, 50}, 100, times(9), "two\nlines", false});
+        << Any(TextBlockState{{1, 2}, {0, 0}, {101, 50}, 100, times(9), "two\nlines", false});
 }
 
-void ItemRecordsTest::writesEachKindOnOneLine()
+void ItemLinesTest::writesEachKindOnOneLine()
 {
     QFETCH(QByteArray, line);
     QFETCH(Any, state);
-    QCOMPARE(ItemRecords::format(state), line);
-    QVERIFY(ItemRecords::parse(QString::fromUtf8(line)) == state);
+    QCOMPARE(state->line(), line);
+    QVERIFY(ItemKinds::catalogue().readLine(QString::fromUtf8(line)) == state);
 }
 
-void ItemRecordsTest::readsBackWhatItWrote()
+void ItemLinesTest::readsBackWhatItWrote()
 {
     RandomDocument random(1);
     for (int i = 0; i < 2000; ++i) {
         const Any state = random.item();
-        const QByteArray line = ItemRecords::format(state);
+        const QByteArray line = state->line();
         QVERIFY2(!line.contains('\n'), line);
-        QVERIFY2(ItemRecords::parse(QString::fromUtf8(line)) == state, line);
+        QVERIFY2(ItemKinds::catalogue().readLine(QString::fromUtf8(line)) == state, line);
     }
 }
 
-void ItemRecordsTest::quotingKeepsEveryCharacter_data()
+void ItemLinesTest::quotingKeepsEveryCharacter_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("quoted");
@@ -106,7 +115,7 @@ void ItemRecordsTest::quotingKeepsEveryCharacter_data()
                                   << "\"𝄞\"";
 }
 
-void ItemRecordsTest::quotingKeepsEveryCharacter()
+void ItemLinesTest::quotingKeepsEveryCharacter()
 {
     QFETCH(QString, text);
     QFETCH(QString, quoted);
@@ -116,7 +125,7 @@ void ItemRecordsTest::quotingKeepsEveryCharacter()
     QCOMPARE(fields->value("value"), text);
 }
 
-void ItemRecordsTest::rejectsWhatIsNoRecord_data()
+void ItemLinesTest::rejectsWhatIsNoRecord_data()
 {
     QTest::addColumn<QString>("line");
     QTest::newRow("unknown keyword") << "tonquill_harp 1 2 3";
@@ -135,11 +144,11 @@ void ItemRecordsTest::rejectsWhatIsNoRecord_data()
         << "tonquill_linetab 0 0 0 0 1 1 anchors=\"1 2 3\"";
 }
 
-void ItemRecordsTest::rejectsWhatIsNoRecord()
+void ItemLinesTest::rejectsWhatIsNoRecord()
 {
     QFETCH(QString, line);
-    QVERIFY(!ItemRecords::parse(line).has_value());
+    QVERIFY(!ItemKinds::catalogue().readLine(line).has_value());
 }
 
-QTEST_GUILESS_MAIN(ItemRecordsTest)
-#include "tst_itemrecords.moc"
+QTEST_GUILESS_MAIN(ItemLinesTest)
+#include "tst_itemlines.moc"
