@@ -4,6 +4,7 @@
 namespace Rows
 {
 void addDocument(); ///< receiving, clearing
+void addKinds();    ///< building and writing an item of each kind
 void addEditing();  ///< finishing an edit, deleting, selecting, moving
 void addPages();    ///< inserting and deleting a page
 void addPainting(); ///< repainting the view

@@ -14,6 +14,7 @@ namespace
 void addRows()
 {
     Rows::addDocument();
+    Rows::addKinds();
     Rows::addEditing();
     Rows::addPages();
     Rows::addPainting();

@@ -53,12 +53,6 @@ const ItemKind *ItemCatalogue::ofItem(const QGraphicsItem &item) const
     });
 }
 
-std::optional<ItemState> ItemCatalogue::stateOf(const QGraphicsItem &item) const
-{
-    const ItemKind *kind = ofItem(item);
-    return kind ? kind->stateOf(item) : std::nullopt;
-}
-
 std::optional<ItemState> ItemCatalogue::readLine(const QString &line, QStringList *unknown) const
 {
     const std::optional<QuotedFields> fields = QuotedFields::parse(line);

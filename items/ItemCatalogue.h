@@ -3,7 +3,6 @@
 #include "ItemKind.h"
 
 #include <list>
-#include <vector>
 
 /** The kinds of items that a document may have, a row for each. */
 class ItemCatalogue
@@ -21,9 +20,6 @@ public:
     const ItemKind *ofLine(QStringView keyword) const;
     const ItemKind *ofLine(QByteArrayView keyword) const;
     const ItemKind *ofItem(const QGraphicsItem &item) const;
-
-    /** The state of an item; nothing while it waits to be placed, and for one of no kind. */
-    std::optional<ItemState> stateOf(const QGraphicsItem &item) const;
 
     /**
      * Reads a line of a file; nothing if its keyword is unknown or a field is missing or

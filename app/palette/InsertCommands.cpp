@@ -1,16 +1,12 @@
 #include "InsertCommands.h"
 
+#include "ItemKinds.h"
 #include "Logging.h"
+#include "Records.h"
 #include "TonquillScene.h"
 #include "TonquillSimpleTextDlg.h"
 #include "TonquillText.h"
-#include "TonquillTextBlock.h"
 #include "TonquillTimeSig.h"
-#include "TonquillVectorGrandstaff.h"
-#include "TonquillVectorInteractiveLine.h"
-#include "TonquillVectorLineTab.h"
-#include "TonquillVectorNoteTie.h"
-#include "TonquillVectorTriplet.h"
 
 InsertCommands::InsertCommands(QWidget &window, TonquillScene &scene)
     : m_window(window)
@@ -26,7 +22,7 @@ void InsertCommands::text()
         return;
     auto *item = new TonquillText(true);
     dialog.applyTo(*item);
-    addText(item);
+    m_scene.addNewItem(item);
     // A new text turns the other way than an edited one. That is intentional.
     item->setRotation(-dialog.angle());
     item->updateFrame();
@@ -40,15 +36,8 @@ void InsertCommands::tempo(const QString &term)
     item->setFont(QFont(QStringLiteral("Arial"), 12));
     item->setPlainText(term);
     item->setDefaultTextColor(Qt::black);
-    addText(item);
-    item->updateFrame();
-}
-
-void InsertCommands::addText(TonquillText *item)
-{
-    QObject::connect(item, &TonquillText::showTextItemMenu, &m_scene,
-                     &TonquillScene::onTextItemContextMenu);
     m_scene.addNewItem(item);
+    item->updateFrame();
 }
 
 void InsertCommands::timeSignature(const QString &text)
@@ -62,38 +51,41 @@ void InsertCommands::timeSignature(const QString &text)
 
 void InsertCommands::textBlock()
 {
-    if (!m_scene.isNewItemIsAdding())
-        m_scene.addNewItem(new TonquillTextBlock(true, QString(), QRectF()));
-}
-
-template <typename VectorItem>
-void InsertCommands::vectorItem()
-{
-    if (!m_scene.isNewItemIsAdding())
-        m_scene.addNewItem(new VectorItem(true, QPointF(0, 0), QPointF(0, 0)));
+    addInsteadOfWaiting(Records::textblockKeyword());
 }
 
 void InsertCommands::grandstaff()
 {
-    vectorItem<TonquillVectorGrandstaff>();
+    addInsteadOfWaiting(Records::grandstaffKeyword());
 }
 
 void InsertCommands::triplet()
 {
-    vectorItem<TonquillVectorTriplet>();
+    addInsteadOfWaiting(Records::tripletKeyword());
 }
 
 void InsertCommands::tie()
 {
-    vectorItem<TonquillVectorNoteTie>();
+    addInsteadOfWaiting(Records::notetieKeyword());
 }
 
 void InsertCommands::line()
 {
-    vectorItem<TonquillVectorInteractiveLine>();
+    addInsteadOfWaiting(Records::interactivelineKeyword());
 }
 
 void InsertCommands::tablature()
 {
-    m_scene.addNewItem(new TonquillVectorLineTab(true, QPointF(0, 0), QPointF(0, 0)));
+    add(Records::linetabKeyword());
+}
+
+void InsertCommands::addInsteadOfWaiting(const QString &keyword)
+{
+    if (!m_scene.isNewItemIsAdding())
+        add(keyword);
+}
+
+void InsertCommands::add(const QString &keyword)
+{
+    m_scene.addNewItem(ItemKinds::catalogue().ofRecord(keyword)->makeNew());
 }

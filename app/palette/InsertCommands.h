@@ -4,7 +4,6 @@
 
 class QWidget;
 class TonquillScene;
-class TonquillText;
 
 /**
  * The palette's commands for all but symbols: each makes a new item and hands it to the scene,
@@ -36,9 +35,8 @@ public:
     void tablature();
 
 private:
-    template <typename VectorItem>
-    void vectorItem();
-    void addText(TonquillText *item);
+    void addInsteadOfWaiting(const QString &keyword);
+    void add(const QString &keyword);
 
     QWidget &m_window;
     TonquillScene &m_scene;

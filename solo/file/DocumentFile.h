@@ -14,6 +14,7 @@
 namespace DocumentFile
 {
 using Reading = DocumentReading;
+using Problem = DocumentReading::Problem;
 
 /** The bytes of a document's file. */
 QByteArray format(const DocumentSnapshot &document);

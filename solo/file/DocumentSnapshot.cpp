@@ -7,6 +7,7 @@
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 #include "TonquillView.h"
+#include "UnknownItems.h"
 
 #include <QScrollBar>
 
@@ -42,6 +43,17 @@ bool isHeld(const QGraphicsItem *item)
     return own && own->isHeld();
 }
 } // namespace
+
+QByteArray DocumentSnapshot::lineOf(const QGraphicsItem *item)
+{
+    const ItemKind *kind = ItemKinds::catalogue().ofItem(*item);
+    if (!kind) {
+        UnknownItems::report(*item);
+        return QByteArray();
+    }
+    const auto state = kind->stateOf(*item);
+    return state ? state->line() : QByteArray();
+}
 
 QList<QGraphicsItem *> DocumentSnapshot::itemsOf(const TonquillMainWin &window)
 {
@@ -79,10 +91,10 @@ DocumentSnapshot DocumentSnapshot::capture(const TonquillMainWin &window,
 {
     DocumentSnapshot snapshot{paperOf(window), window.pageCount, {}};
     for (QGraphicsItem *item : itemsOf(window)) {
-        const auto state = ItemKinds::catalogue().stateOf(*item);
-        if (!state)
+        const QByteArray line = lineOf(item);
+        if (line.isEmpty())
             continue;
-        snapshot.items.append(state->line());
+        snapshot.items.append(line);
         if (read)
             read->append(item);
     }

@@ -48,6 +48,12 @@ struct DocumentSnapshot
     /** The items on the window's pages, from the lowest to the topmost; none that is another's. */
     static QList<QGraphicsItem *> itemsOf(const TonquillMainWin &window);
 
+    /**
+     * The line of an item; empty for one that waits to be placed, and for one of no known kind, of
+     * which the log is told if it is the document's.
+     */
+    static QByteArray lineOf(const QGraphicsItem *item);
+
     /** The window's paper. */
     static Paper paperOf(const TonquillMainWin &window);
 

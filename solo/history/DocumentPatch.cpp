@@ -28,12 +28,6 @@ bool isBusy(const TonquillMainWin &window)
     return DocumentSnapshot::isItemHeld(window) || (block && TonquillTextBlock::isEdited(*block));
 }
 
-QByteArray lineOf(const QGraphicsItem *item)
-{
-    const auto state = ItemKinds::catalogue().stateOf(*item);
-    return state ? state->line() : QByteArray();
-}
-
 /** True if `items` are those that the lines were written of, as far as the hunks tell. */
 bool matches(const QList<QGraphicsItem *> &items, const Hunks &hunks, qsizetype newerCount)
 {
@@ -45,7 +39,7 @@ bool matches(const QList<QGraphicsItem *> &items, const Hunks &hunks, qsizetype 
         return false;
     for (const UndoHistory::Hunk &hunk : hunks) {
         for (qsizetype i = 0; i < hunk.older.size(); ++i) {
-            if (lineOf(items[hunk.at + i]) != hunk.older[i])
+            if (DocumentSnapshot::lineOf(items[hunk.at + i]) != hunk.older[i])
                 return false;
         }
     }
@@ -99,7 +93,7 @@ std::optional<DocumentPatch::Shown> DocumentPatch::apply(TonquillMainWin &window
             QGraphicsItem *item = window.scene->buildItem(*state++);
             putBelow(item, above);
             shown.items.append(item);
-            shown.document.items[i] = lineOf(item);
+            shown.document.items[i] = DocumentSnapshot::lineOf(item);
         }
         replaced += items.sliced(hunk.at, hunk.older.size());
     }

@@ -3,6 +3,7 @@
 #include "DocumentFile.h"
 #include "OrdinaryFile.h"
 #include "TonquillMainWin.h"
+#include "UnknownItems.h"
 
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -67,6 +68,11 @@ FileStamp::Change DocumentSession::newFileChange()
 bool DocumentSession::isModified() const
 {
     return m_differsFromFile || m_edits.document() != m_saved;
+}
+
+QStringList DocumentSession::unknownClasses() const
+{
+    return UnknownItems::classesAmong(DocumentSnapshot::itemsOf(m_window));
 }
 
 void DocumentSession::begin(const DocumentSnapshot &document, bool differsFromFile)

@@ -45,6 +45,9 @@ public:
     /** True if something would be lost without saving. */
     bool isModified() const;
 
+    /** The classes of items in the document that no file can hold, for nobody knows how. */
+    QStringList unknownClasses() const;
+
     /** The paper of documents that bring none. */
     const Paper &defaultPaper() const { return m_empty.paper; }
 

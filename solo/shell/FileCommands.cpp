@@ -189,7 +189,20 @@ bool FileCommands::saveTo(const QString &path)
         return false;
     }
     remember(path);
+    sayWhatIsNotSaved(path);
     return true;
+}
+
+/** Names the items on the page that are not in the file. */
+void FileCommands::sayWhatIsNotSaved(const QString &path)
+{
+    const QStringList classes = m_session.unknownClasses();
+    if (classes.isEmpty())
+        return;
+    PlainMessageBox::warn(
+        &m_window, tr("“%1” does not contain all items.").arg(QDir::toNativeSeparators(path)),
+        tr("Items of these classes cannot be saved and are only on the page: %1.")
+            .arg(classes.join(QStringLiteral(", "))));
 }
 
 /** In the folder of the document's file or, if it has none, the user's documents folder. */

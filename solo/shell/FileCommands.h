@@ -43,6 +43,7 @@ public Q_SLOTS:
 
 private:
     bool saveTo(const QString &path);
+    void sayWhatIsNotSaved(const QString &path);
     bool reload();
     bool showFile(const QString &path, const DocumentFile::Reading &reading);
     bool isDocument(const QString &path, const DocumentFile::Reading &reading);

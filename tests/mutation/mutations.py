@@ -60,9 +60,9 @@ MUTATIONS = [
     ),
     Mutation(
         "a simple text gets the offset once",
-        "document/TonquillSceneRecords.cpp",
-        "offset == atCursor ? atCursor : 2",
-        "offset == atCursor ? atCursor : 1",
+        "document/ItemKinds.cpp",
+        ".offsetTimes = 2,",
+        ".offsetTimes = 1,",
         "tst_construction",
     ),
     Mutation(
