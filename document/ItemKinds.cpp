@@ -27,6 +27,7 @@ std::optional<FigureState> figureOf(QStringView fields)
     return FigureState::ofRecord(fields, Figure::figure());
 }
 
+/** ItemKind::stateOfRecord of a kind whose records lose nothing; `recorded` reads their fields. */
 template <auto recorded>
 std::optional<ItemState> stateOfRecord(QStringView fields)
 {
@@ -35,6 +36,7 @@ std::optional<ItemState> stateOfRecord(QStringView fields)
     return std::nullopt;
 }
 
+/** ItemKind::readRecord of such a kind. */
 template <auto recorded>
 RecordedItem readRecord(QStringView fields, bool adding, const SymbolSource &symbols)
 {
@@ -65,7 +67,7 @@ RecordedItem readText(QStringView fields, bool adding, const SymbolSource &)
 void joinText(QGraphicsItem &item, QGraphicsScene &scene)
 {
     auto &text = static_cast<TonquillText &>(item);
-    // Programs of others see to the menu of the texts that they make.
+    // Extensions may have connected the texts that they make.
     if (!text.hasMenu())
         QObject::connect(&text, SIGNAL(showTextItemMenu(TonquillText *)), &scene,
                          SLOT(onTextItemContextMenu(TonquillText *)));

@@ -2,9 +2,9 @@
 
 #include "DocumentItem.h"
 #include "ItemKinds.h"
-#include "ItemReference.h"
 #include "Logging.h"
 
+#include <QGraphicsItem>
 #include <QSet>
 
 #include <typeinfo>
@@ -15,7 +15,7 @@ namespace
 QString unknownClass(const QGraphicsItem &item)
 {
     const DocumentItem *own = DocumentItem::of(&item);
-    const QObject *object = ItemReference::objectOf(const_cast<QGraphicsItem *>(&item));
+    const auto *object = dynamic_cast<const QObject *>(&item);
     const bool isWaiting = own && own->isWaiting();
     const bool hasRecord = object && object->metaObject()->indexOfMethod("getParamStr()") >= 0;
     if (isWaiting || (!own && !hasRecord))
