@@ -20,7 +20,7 @@ TonquillMainWin *g_pMainWin = nullptr;
 
 namespace
 {
-/** Scenes whose windows may be gone; they are destroyed when the application is. */
+/** Scenes, which outlive their windows until the application ends. */
 QList<QPointer<TonquillScene>> &scenesOfTheProcess()
 {
     static QList<QPointer<TonquillScene>> scenes;
@@ -60,7 +60,7 @@ TonquillMainWin::TonquillMainWin(HostConnection connection, QWidget *parent)
     , ui(new Ui_TonquillMainWin)
     , m_printer(QPrinter::ScreenResolution)
 {
-    // A dialog closed while this window is hidden is no reason to end the program.
+    // Closing a dialog while this window is hidden must not end the program.
     QGuiApplication::setQuitOnLastWindowClosed(false);
 
     ui->setupUi(this);
@@ -108,12 +108,12 @@ void TonquillMainWin::makeParts()
 
 TonquillMainWin::~TonquillMainWin()
 {
-    // The view's last focus events must not reach a window that is going.
+    // The view's last focus events must not reach a window that is being destroyed.
     if (g_pMainWin == this)
         g_pMainWin = nullptr;
     scene->leaveContext();
     socket.disconnect(this);
-    // Nor must the host's last message, which is handled when the connection ends.
+    // Neither must the host's last message, which is handled when the connection ends.
     m_hostLink.reset();
     socket.disconnectFromServer();
     socket.close();
@@ -155,7 +155,7 @@ bool TonquillMainWin::event(QEvent *event)
 void TonquillMainWin::giveKeyboardToPage()
 {
     ui->graphicsView->setFocus();
-    // Return still goes to the page of this number first, also when it is the same as before.
+    // Return first goes to the page of this number, even if the number has not changed.
     const auto *number = ui->sb_page->findChild<QLineEdit *>();
     connect(number, SIGNAL(returnPressed()), ui->graphicsView, SLOT(setFocus()));
     auto *escape = new QShortcut(Qt::Key_Escape, ui->sb_page);
@@ -164,8 +164,8 @@ void TonquillMainWin::giveKeyboardToPage()
 }
 
 /**
- * A press on a toolbar or between the controls takes the keyboard to the window, which ends the
- * editing of a text. The window has no use for keys, so they go on to the page.
+ * A click on a toolbar or between the controls moves the focus to the window, which ends the
+ * editing of a text. The window forwards its keys to the page.
  */
 void TonquillMainWin::focusInEvent(QFocusEvent *event)
 {

@@ -27,8 +27,8 @@ class Ui_TonquillMainWin;
  * The one main window: the view of the document, the three toolbars, the page controls, the
  * printer and the link to the host.
  *
- * The slots are declared here in the order of the controls that they answer; each is one line
- * that hands its work to the class for it. Closing the window only hides it.
+ * The slots are declared in the order of their controls; each is one line that calls the class for
+ * its work. Closing the window only hides it.
  */
 class TonquillMainWin : public QMainWindow, public DocumentContext
 {
@@ -38,7 +38,7 @@ public:
     /** Whether a window looks for its host as soon as it is built. */
     enum class HostConnection {
         AtOnce,
-        Later ///< when whoever built it calls connectToHost()
+        Later ///< when connectToHost() is called
     };
 
     explicit TonquillMainWin(QWidget *parent = nullptr);
@@ -60,12 +60,12 @@ public:
     int tb2IconHeight = 0;          ///< pixels
     int pageCount = 0;              ///< pages of the document; kept by the scene
     bool restMode = false;          ///< Ctrl is held: the note buttons insert rests
-    bool quickText = false;         ///< letters typed on the page open a text block
+    bool quickText = false;         ///< typing on the page opens a text block
 
     /** The printer of every print, preview and page setup while the program runs. */
     QPrinter &sharedPrinter() { return m_printer; }
 
-    /** Prints the pages, for those who want to know what became of it, and on what paper. */
+    /** Prints the pages and reports the outcome and the paper. */
     PagePrinter &pagePrinter() const { return *m_pagePrinter; }
 
     /** Connects to the host, if one is listening; otherwise the editor runs alone. */
@@ -87,10 +87,10 @@ public:
     /** Makes a note or rest that waits to be placed and can be inverted with the right button. */
     void InsertNoteRest(int id);
 
-    /** Gives toolbar 2 the icons that go with `restMode`. */
+    /** Sets the icons of toolbar 2 according to `restMode`. */
     void swapTb2();
 
-    /** The menu of the symbols-reference button, filled anew from the application directory. */
+    /** The menu of the symbols-reference button, refilled from the application directory. */
     QMenu *constructMenuSymRef();
 
     /** Replaces the document by that of a host's message: records separated by "|". */

@@ -35,7 +35,7 @@ void TonquillMainWin::swapTb2()
     m_palette->showToolBar2Icons(restMode);
 }
 
-/** What the menu entry that triggered the present slot shows. */
+/** The text of the menu entry that triggered the current slot. */
 QString TonquillMainWin::senderText() const
 {
     const auto *action = qobject_cast<QAction *>(sender());

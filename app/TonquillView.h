@@ -2,7 +2,7 @@
 
 #include <QGraphicsView>
 
-/** The view of the scene. It says when it was scrolled, and leaves the arrow keys to the scene. */
+/** The view of the scene. It signals scrolling and leaves the arrow keys to the scene. */
 class TonquillView : public QGraphicsView
 {
     Q_OBJECT
@@ -11,8 +11,9 @@ public:
     explicit TonquillView(QWidget *parent = nullptr);
 
     /**
-     * The scene point a few pixels inside the top-left corner of what is seen: the viewport point
-     * equal to the view's own position in its parent. The page that is there is the current one.
+     * The scene point a few pixels inside the top-left corner of the visible part: the viewport
+     * point equal to the view's own position in its parent. The page that is there is the current
+     * one.
      */
     QPointF curScenePos() const;
 

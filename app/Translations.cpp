@@ -18,7 +18,7 @@ bool install(QCoreApplication &application, const QString &name, const QString &
 void installTranslations(QCoreApplication &application)
 {
     Q_INIT_RESOURCE(translations);
-    // Qt has more languages than we; it is not to speak one that we do not.
+    // Qt has more translations than we do; without one of ours it stays English, too.
     if (install(application, QStringLiteral("tonquill"), QStringLiteral(":/translations")))
         install(application, QStringLiteral("qtbase"),
                 QLibraryInfo::path(QLibraryInfo::TranslationsPath));

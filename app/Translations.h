@@ -3,7 +3,7 @@
 class QCoreApplication;
 
 /**
- * Has the application speak the user's language where it is one that we have, and English
- * otherwise. Texts that hosts and users know word by word are not translated.
+ * Translates the application into the user's language if there is a translation; otherwise it stays
+ * English. Texts that hosts and users rely on literally are not translated.
  */
 void installTranslations(QCoreApplication &application);

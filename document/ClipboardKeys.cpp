@@ -13,7 +13,7 @@ QKeySequence::StandardKey commandOf(const QKeyEvent &event)
     return QKeySequence::UnknownKey;
 }
 
-/** With Ctrl a key may have another code than without it, on a Cyrillic keyboard for example. */
+/** With Ctrl a key may have another code than without it, for example on Cyrillic layouts. */
 quint32 placeOf(const QKeyEvent &event)
 {
     return event.nativeScanCode() ? event.nativeScanCode() : static_cast<quint32>(event.key());

@@ -6,22 +6,22 @@
 class QKeyEvent;
 
 /**
- * Tells which keys copy and paste, by the platform's bindings. They act when they are released.
- * A hand often lets go of Ctrl a moment before the letter, so a press is remembered until its
- * release, which then means the same without Ctrl.
+ * Recognises the keys for copy and paste, by the platform's bindings. They act when released. Users
+ * often release Ctrl a moment before the letter, so a press is remembered until its release, which
+ * then counts even without Ctrl.
  */
 class ClipboardKeys
 {
 public:
-    /** Takes note of any press. */
+    /** Records a press of any key. */
     void press(const QKeyEvent &event);
 
-    /** What this release asks for: Copy, Paste, or UnknownKey for neither. */
+    /** The command of this release: Copy, Paste, or UnknownKey for neither. */
     QKeySequence::StandardKey release(const QKeyEvent &event);
 
-    /** The keyboard goes elsewhere: releases of what is held now will not be told. */
+    /** The focus was lost: there will be no releases of keys that are held now. */
     void forgetPresses() { m_pressed.clear(); }
 
 private:
-    QHash<quint32, QKeySequence::StandardKey> m_pressed; ///< by the place on the keyboard
+    QHash<quint32, QKeySequence::StandardKey> m_pressed; ///< by native scan code
 };

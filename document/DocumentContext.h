@@ -19,7 +19,7 @@ public:
     /** The paper of a new document. */
     virtual Sheet sheet() const = 0;
 
-    /** The number of pages, which is kept here for everybody and changed by the document only. */
+    /** The number of pages. It is stored here, but only the document changes it. */
     virtual int pages() const = 0;
     virtual void setPages(int count) = 0;
 
@@ -27,7 +27,7 @@ public:
     virtual bool isRestModeOn() const = 0;
     virtual void setRestMode(bool on) = 0;
 
-    /** Quick text mode: letters that are typed on the page open a text block. */
+    /** Quick text mode: typing on the page opens a text block. */
     virtual bool isQuickTextOn() const = 0;
     virtual void setQuickText(bool on) = 0;
 

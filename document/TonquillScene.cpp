@@ -20,10 +20,10 @@ constexpr qsizetype someItems = 1000;
 /** From this number on, removing items one by one costs more than sorting them first. */
 constexpr qsizetype manyItems = 20000;
 
-/** Below every z value that the document uses, and with room for more items than memory has. */
+/** Below every z value that the document uses, with room for more items than fit in memory. */
 constexpr qreal belowAllItems = -1.0e12;
 
-/** Whom a document asks whose program is gone. */
+/** The context of a scene whose window is gone. */
 class NobodyAround : public DocumentContext
 {
 public:
@@ -94,11 +94,11 @@ TonquillBitmap *TonquillScene::insertSymbol(int id, bool adding, bool withInvert
 }
 
 /**
- * Qt chooses the depth of its index for the items that it finds when it first needs it,
- * and keeps to it whatever comes: found for ten items, it would search tens of thousands at every
- * move of the pointer. So the depth is chosen here, anew whenever the number of items has doubled.
- * A leaf for two to four of them is found as quickly as Qt's two to four leaves for each
- * one, is built sooner, and spares a sixth of a document's memory.
+ * Qt chooses the depth of its index by the number of items when it first needs it, and never
+ * changes it: chosen for ten items, it would search tens of thousands at every move of the pointer.
+ * So the depth is set here, again whenever the number of items has doubled. One leaf for two to
+ * four items is searched as quickly as Qt's two to four leaves per item, is built faster, and saves
+ * a sixth of a document's memory.
  */
 void TonquillScene::fitIndexToItems()
 {
@@ -155,20 +155,20 @@ bool TonquillScene::isNewItemIsAdding()
 
 void TonquillScene::destroyItems(const QList<QGraphicsItem *> &items)
 {
-    update(); // all at once, and not item by item
+    update(); // once, instead of item by item
     if (items.size() >= manyItems)
         moveToFrontOfQtsList(items);
-    // An item that is deleted while it stands on the scene can no longer say where it is: Qt
-    // then goes through the whole of its index, once for however many.
+    // An item that is deleted while it is on the scene can no longer tell its place: Qt then
+    // searches its whole index, but only once for any number of items.
     if (items.size() < someItems)
         std::for_each(items.cbegin(), items.cend(), [this](auto *item) { removeItem(item); });
     qDeleteAll(items);
 }
 
 /**
- * Qt takes an item off its list of top-level items by looking from the front and closing
- * the gap, so taking off many costs the square of their number. It costs nothing at the front of
- * the list, which Qt sorts by z when it works without its index.
+ * Qt removes an item from its list of top-level items by searching from the front and closing the
+ * gap, so removing many takes quadratic time. At the front of the list it takes constant time; Qt
+ * sorts the list by z when it works without its index.
  */
 void TonquillScene::moveToFrontOfQtsList(const QList<QGraphicsItem *> &items)
 {
@@ -177,6 +177,6 @@ void TonquillScene::moveToFrontOfQtsList(const QList<QGraphicsItem *> &items)
     setItemIndexMethod(NoIndex);
     itemAt(QPointF(), QTransform());
     setItemIndexMethod(BspTreeIndex);
-    // Not before the next painting: an item that is not yet in the index is looked for as well.
+    // Not before the next painting: items that are not yet in the index are searched for, too.
     itemAt(QPointF(), QTransform());
 }

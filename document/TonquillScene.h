@@ -23,7 +23,7 @@ class TonquillTextBlock;
  * There is no page object; a page is a band of scene coordinates. The number of pages is kept by
  * the main window. The scene writes the document as records and builds items from them, and it is
  * the dispatcher of every pointer and key event: events go to the selected items, which act by
- * their itemStatus. It owns its items, those that it dropped half-placed included.
+ * their itemStatus. It owns its items, including those that were dropped before they were placed.
  */
 class TonquillScene : public QGraphicsScene, public ItemRegistry
 {
@@ -37,8 +37,7 @@ public:
     explicit TonquillScene(DocumentContext &context, QObject *parent = nullptr);
     ~TonquillScene() override;
 
-    /** To be called before the context goes, if that goes first; nothing is asked of it any more.
-     */
+    /** Detaches the context; to be called before it is destroyed, if the scene lives longer. */
     void leaveContext();
 
     // Pages. Numbers begin at 1 and are not range-checked.
@@ -58,8 +57,7 @@ public:
 
     /** The number of pages. */
     int pageCount() const { return m_context->pages(); }
-    /** What is printed of page `index`, counted from 0: its printable area with the whole outline.
-     */
+    /** The printed part of page `index`, counted from 0: its printable area with its outline. */
     QRectF printedArea(int index) const;
     /** One more page at the end, without touching items. */
     void addPage();
@@ -74,11 +72,11 @@ public:
     void addPageAtBegining();
     void addPageAtEnd();
     /**
-     * Deletes the page with its items; the last page is only emptied. What is below comes up by two
-     * gaps less than a page's pitch.
+     * Deletes the page with its items; the last page is only emptied. Everything below moves up by
+     * two gaps less than a page's pitch.
      */
     void deletePage(int page);
-    /** The same, but what is below comes up by this many scene units. */
+    /** The same, but everything below moves up by this many scene units. */
     void deletePage(int page, double way);
     /** Deletes every item and all pages but one. */
     void clearScene();
@@ -134,14 +132,14 @@ public:
 
     void itemAwaitsPlacing(QGraphicsItem *item) override;
 
-    /** Has somebody told of every change of the items; null for nobody. Not owned. */
+    /** Sets the observer of all changes of items; not owned, null for none. */
     void setItemObserver(ItemObserver *observer) override;
 
     /** Builds a copy of every record that was copied so far, moved by 30. */
     void onPaste();
 
-    // Commands of keys and menus. They answer false, with nothing done, while a text is edited that
-    // they would act on as a whole: it has its own way to copy, paste or delete a part of itself.
+    // Commands of keys and menus. They return false and do nothing while a text is edited, which
+    // then copies, pastes or deletes a part of itself instead.
 
     /** Copies the records of the selected items, besides what was copied before. */
     bool copySelection();

@@ -36,8 +36,8 @@ QPointF nudgeBy(int key)
 }
 
 /**
- * Whether Ctrl is held when the focus comes for this reason. Inside the window the event that
- * moves the focus tells; who comes from a menu or another window has to look at the keyboard.
+ * Whether Ctrl is held when the focus arrives for this reason. Within the window the last event
+ * tells; coming from a menu or another window, the keyboard has to be queried.
  */
 bool isCtrlHeld(Qt::FocusReason reason)
 {
@@ -50,7 +50,7 @@ bool isCtrlHeld(Qt::FocusReason reason)
 
 bool isTextBeingEdited(const QGraphicsItem *item)
 {
-    // Two steps that are quick for the many items which are no texts.
+    // In two steps, which are fast for the many items that are not texts.
     const QGraphicsObject *object = item ? item->toGraphicsObject() : nullptr;
     const auto *text = qobject_cast<const QGraphicsTextItem *>(object);
     return text && TonquillTextBlock::isEdited(*text);
@@ -80,7 +80,7 @@ void TonquillScene::keyPressEvent(QKeyEvent *event)
     const QPointF step = nudgeBy(event->key());
     if (!step.isNull()) {
         if (isSelectedItemEdited()) {
-            // The text cursor moves in the edited item, which takes its keys with the release.
+            // The arrow keys move the text cursor of the edited item.
             QGraphicsScene::keyReleaseEvent(event);
             return;
         }
@@ -90,14 +90,14 @@ void TonquillScene::keyPressEvent(QKeyEvent *event)
     QGraphicsScene::keyPressEvent(event);
 }
 
-/** For changes of Ctrl that no key event told. */
+/** For changes of Ctrl without a key event. */
 void TonquillScene::adjustRestMode(bool isCtrlHeld)
 {
     if (m_context->isRestModeOn() != isCtrlHeld)
         m_context->setRestMode(isCtrlHeld);
 }
 
-/** Lays the block that takes what is typed, at the pointer. It begins with one blank. */
+/** Adds the block that receives the typed text at the pointer. It begins with one space. */
 void TonquillScene::startQuickTextBlock()
 {
     auto *block = new TonquillTextBlock(false, QStringLiteral(" "), QRectF(0, 0, 0, 0));
@@ -129,19 +129,19 @@ void TonquillScene::keyReleaseEvent(QKeyEvent *event)
         m_context->setRestMode(false);
         isDone = true;
     }
-    // An edited text has copied or pasted a part of itself when the key was pressed.
+    // An edited text has already handled copy or paste when the key was pressed.
     if (!isDone)
         QGraphicsScene::keyReleaseEvent(event);
 }
 
-/** The keyboard comes back. Ctrl may have been pressed or let go meanwhile, unknown to the page. */
+/** The focus returns. Ctrl may have been pressed or released elsewhere in the meantime. */
 void TonquillScene::focusInEvent(QFocusEvent *event)
 {
     adjustRestMode(isCtrlHeld(event->reason()));
     QGraphicsScene::focusInEvent(event);
 }
 
-/** The keyboard goes elsewhere, and with it the news that Ctrl was let go. A menu returns it. */
+/** The focus is lost, and with it the release of Ctrl. After a menu it returns. */
 void TonquillScene::focusOutEvent(QFocusEvent *event)
 {
     m_clipboardKeys.forgetPresses();
@@ -150,7 +150,7 @@ void TonquillScene::focusOutEvent(QFocusEvent *event)
     QGraphicsScene::focusOutEvent(event);
 }
 
-/** The likely items are asked first: with every letter that is typed, one of them is it. */
+/** Checks the likely items first: while text is typed, it is one of them. */
 bool TonquillScene::isAnyItemEdited() const
 {
     if (isTextBeingEdited(focusItem()) || isSelectedItemEdited())
@@ -177,7 +177,7 @@ bool TonquillScene::deleteSelection()
     return true;
 }
 
-/** The copy buffer is never emptied: a paste makes everything that was copied so far. */
+/** The copy buffer is never emptied: a paste adds everything that was copied so far. */
 bool TonquillScene::copySelection()
 {
     if (isAnyItemEdited())
@@ -206,7 +206,7 @@ void TonquillScene::onPaste()
         constructItem(record, false, pasteOffset);
 }
 
-/** Makes one more item like the last one that was added, following the pointer. */
+/** Adds another item like the last one, which follows the pointer. */
 bool TonquillScene::addSameItem()
 {
     if (isAnyItemEdited())

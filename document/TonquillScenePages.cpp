@@ -69,7 +69,7 @@ void TonquillScene::addPageAtEnd()
     insertPageAt(m_context->pages() * pagePitch());
 }
 
-/** Items are found by their shape, so one that only reaches below `top` moves down as well. */
+/** Items are found by their shape, so one that only extends below `top` moves down, too. */
 void TonquillScene::insertPageAt(double top)
 {
     m_context->setPages(m_context->pages() + 1);
@@ -81,19 +81,19 @@ void TonquillScene::insertPageAt(double top)
 }
 
 /**
- * To be called after the scene's rectangle was set, which drops Qt's index: until that,
- * each item that moves is taken out of the index by itself.
+ * To be called after the scene's rectangle was set, which drops Qt's index: before that, each item
+ * that moves is removed from the index individually.
  */
 void TonquillScene::moveDown(const QList<QGraphicsItem *> &items, double way)
 {
-    update(); // all at once, and not item by item
+    update(); // once, instead of item by item
     for (QGraphicsItem *item : items)
         item->setPos(item->x() + 0.0, item->y() + way);
 }
 
 void TonquillScene::deletePage(int page)
 {
-    // Intentional: items land two gaps lower on their new page than they stood before.
+    // Intentional: items end up two gaps lower on their new page than before.
     deletePage(page, paperRect.height() - pageSpacing);
 }
 
@@ -102,7 +102,7 @@ void TonquillScene::deletePage(int page, double way)
     const QRectF area(0, truncatedToInt((page - 1) * pagePitch()), paperRect.width(),
                       paperRect.height());
     QList<QGraphicsItem *> deleted = topLevelItemsIn(area);
-    // The undermost first: taken off in that order, each is found at once, for it is the oldest.
+    // The bottommost first: in that order each is found immediately, since it is the oldest.
     std::reverse(deleted.begin(), deleted.end());
     destroyItems(deleted);
     if (m_context->pages() < 2)
@@ -121,7 +121,7 @@ void TonquillScene::clearScene()
     m_contextText.clear();
     m_quickTextBlock.clear();
     m_waiting.clear();
-    update(); // all at once, and not item by item
+    update(); // once, instead of item by item
     clearSelection();
     clear();
     m_addedItems = 0;
@@ -129,7 +129,7 @@ void TonquillScene::clearScene()
     if (m_context->pages() < 2)
         return;
     m_context->setPages(1);
-    // One gap less than the page, on purpose; the next page operation sets the normal height.
+    // Intentional: one gap less than the page; the next page operation sets the normal height.
     setSceneRect(0, 0, sceneRect().width(), paperRect.height() - pageSpacing);
 }
 
@@ -164,10 +164,10 @@ QList<QGraphicsItem *> TonquillScene::topLevelItemsIn(const QRectF &area) const
 
 void TonquillScene::drawBackground(QPainter *painter, const QRectF &rect)
 {
-    // The painter goes on to the items, which must not inherit the grey pen.
+    // The painter is used for the items next, which must not inherit the grey pen.
     painter->save();
-    // Printing asks page by page: only those that the rectangle can show, else the cost of all
-    // pages would grow with the square of their number. No rectangle shows all.
+    // Only the pages within the rectangle: printing calls this for each page, and drawing all of
+    // them would take quadratic time. Without a rectangle all pages are drawn.
     int first = 0;
     int last = m_context->pages() - 1;
     if (!rect.isEmpty()) {

@@ -109,7 +109,7 @@ void TonquillScene::startRubberBand(QPointF scenePos)
 void TonquillScene::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
     if (m_rubberBandVisible) {
-        // The size may be negative; neither drawing nor selecting minds.
+        // The size may be negative, which works for drawing and selecting.
         m_rubberBand.setSize(QSizeF(event->scenePos().x() - m_rubberBand.x(),
                                     event->scenePos().y() - m_rubberBand.y()));
         update();
@@ -140,7 +140,7 @@ void TonquillScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
         selectByRubberBand();
         return;
     }
-    // What Qt delivers to its grabber is not forwarded to the same item again: one
+    // Events that Qt delivers to the mouse grabber are not forwarded to the same item again: a
     // release would open a block's size menu twice.
     ItemReference served;
     if (editedBlockAt(event->scenePos())) {
@@ -197,7 +197,7 @@ void TonquillScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
     }
 }
 
-/** Sends the item an event that says where on this item it is; it is the same otherwise. */
+/** Sends the item a copy of the event with positions relative to the item. */
 void TonquillScene::forward(QGraphicsItem *item, QGraphicsSceneMouseEvent *event)
 {
     event->setPos(item->mapFromScene(event->scenePos()));
@@ -212,7 +212,7 @@ void TonquillScene::forward(QGraphicsItem *item, QGraphicsSceneMouseEvent *event
 
 /**
  * Forwards an event to each selected item. Handling it may run an event loop in which a document
- * arrives, so the items are watched while the list is walked.
+ * arrives and deletes items, so they are guarded by references.
  */
 void TonquillScene::forwardToSelection(QGraphicsSceneMouseEvent *event, QGraphicsItem *except)
 {
@@ -240,7 +240,7 @@ void TonquillScene::onEditTextItem()
         return;
     TonquillSimpleTextDlg dialog(views().isEmpty() ? nullptr : views().constFirst()->window());
     dialog.fillFrom(*m_contextText);
-    // While the dialog is open, a document from the host may have taken the text away.
+    // A document from the host may have deleted the text while the dialog was open.
     if (dialog.exec() != QDialog::Accepted || !m_contextText)
         return;
     dialog.applyTo(*m_contextText);

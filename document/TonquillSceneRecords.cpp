@@ -27,7 +27,7 @@ QString TonquillScene::notifyTW()
     return document;
 }
 
-/** An item without a record, such as a plain picture that a host's extension laid, gives "". */
+/** Empty for an item without a record, such as a plain picture of an embedding program. */
 QString TonquillScene::recordOf(QObject *item)
 {
     QString record;
@@ -45,10 +45,10 @@ void TonquillScene::constructItem(const QString &record, bool adding, int offset
 
 ItemReference TonquillScene::constructDocument(QStringView records)
 {
-    // A glyph that is inserted makes the scene drop the item that waits to be placed.
+    // Inserting a glyph drops the item that waits to be placed.
     const QList<ItemReference> waiting = std::exchange(m_waiting, {});
-    // Once all has to be painted, Qt keeps no list of what each item would have painted
-    // anew, which takes more time and memory than the items.
+    // When everything has to be repainted, Qt keeps no list of dirty regions, which takes more time
+    // and memory than the items.
     update();
     m_lastBuilt = nullptr;
     m_isBuildingDocument = true;

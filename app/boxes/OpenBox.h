@@ -3,8 +3,8 @@
 #include <QMessageBox>
 
 /**
- * Opens a box over the window that runs no loop of its own: the host is heard while it is open, and
- * whoever opens it goes on. The window owns it, until it is closed and goes.
+ * Opens a message box without running an event loop: the caller continues, and messages of the host
+ * are handled while it is open. The window owns it; it is deleted when it is closed.
  */
 inline QMessageBox *openBox(QWidget &window, QMessageBox::Icon icon, const QString &title,
                             const QString &text)

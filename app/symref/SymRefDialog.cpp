@@ -13,7 +13,7 @@ SymRefDialog::SymRefDialog(QWidget *parent)
     , ui(new Ui_SymRefDialog)
 {
     ui->setupUi(this);
-    // In the key text Tab is typed like any letter; with Ctrl it leads on, as it does elsewhere.
+    // In the key text Tab types a tab character; with Ctrl it moves the focus.
     moveFocusBy(Qt::CTRL | Qt::Key_Tab, true);
     moveFocusBy(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, false);
 }
@@ -35,8 +35,8 @@ void SymRefDialog::on_pb_ok_clicked()
     if (!checkInput())
         return;
     const QString path = SymRefPaths::pathOf(ui->lineEdit->text());
-    // Only a folder of that name asks; an existing file is overwritten. The "%s" is shown as it
-    // stands. Both are intentional.
+    // Only a folder of that name shows the question; an existing file is overwritten. The "%s" is
+    // shown literally. Both are intentional.
     if (QDir(path).exists() &&
         QMessageBox::question(this, QStringLiteral("Overwrite?"),
                               QStringLiteral("The destination file already exists:\n\n\t%s\n\n"
@@ -50,7 +50,7 @@ void SymRefDialog::on_pb_ok_clicked()
     accept();
 }
 
-/** False, after a word to the user, if something is missing or the name is no file's name. */
+/** Returns false, after telling the user, if a field is empty or the name is not a file name. */
 bool SymRefDialog::checkInput()
 {
     const QString instrument = ui->lineEdit->text();

@@ -5,8 +5,7 @@
 class QKeySequence;
 class Ui_SymRefDialog;
 
-/** Asks for an instrument's name and the key to its tablature symbols, and writes them to a file.
- */
+/** Asks for an instrument's name and the key to its tablature symbols; writes them to a file. */
 class SymRefDialog : public QDialog
 {
     Q_OBJECT

@@ -15,7 +15,7 @@ namespace
 constexpr int headingId = 0x1000;
 constexpr int createNewId = 0x1001;
 
-/** Opens a text file in the user's editor and waits for the opener, whatever becomes of it. */
+/** Opens a text file in the user's editor; waits for the command and ignores its result. */
 void openInTextEditor(const QString &path)
 {
 #if defined(Q_OS_MACOS)
@@ -47,7 +47,7 @@ QMenu *SymRefFiles::menu()
     m_actions.insert(createNewId, menu->addAction(QStringLiteral("Create New"), &m_window,
                                                   SLOT(OnMenuActionSymRefCreateNew())));
     QDir directory(g_csINIPath);
-    // Name filters alone would take "symref_" as well, which is another kind of file.
+    // Name filters ignore case and would also match "symref_", which is another kind of file.
     directory.setFilter(directory.filter() | QDir::CaseSensitive);
     for (const QString &fileName :
          directory.entryList({SymRefPaths::namePrefix + QStringLiteral("*.txt")})) {

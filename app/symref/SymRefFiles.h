@@ -23,10 +23,10 @@ public:
     SymRefFiles(QWidget &window, QHash<int, QAction *> &actions, const QHash<int, QMenu *> &menus,
                 int buttonId);
 
-    /** The menu of the symbols-reference button, made or filled anew from the directory. */
+    /** The menu of the symbols-reference button, created or refilled from the directory. */
     QMenu *menu();
 
-    /** Opens the file of the menu entry that `action` is. */
+    /** Opens the file of the menu entry `action`. */
     void open(const QObject *action) const;
 
     /** Runs the dialog for a new file, then lists it. */

@@ -2,18 +2,18 @@
 
 #include <QString>
 
-/** The application's directory, where the symbols reference files lie. */
+/** The application's directory, which has the symbols reference files. */
 extern QString g_csINIPath;
 
-/** Where the symbols reference files lie. */
+/** The directory of the symbols reference files. */
 namespace SymRefPaths
 {
-/** What a file's name begins with, before the instrument's. */
+/** The beginning of a file's name, before the instrument. */
 inline const QString namePrefix = QStringLiteral("SymRef_");
 
 /** The file of an instrument. */
 QString pathOf(const QString &instrument);
 
-/** False if the name climbs out of a folder, and with it out of the application's directory. */
+/** False if the name would be outside of the application's directory. */
 bool staysInDirectory(const QString &instrument);
 } // namespace SymRefPaths
