@@ -85,6 +85,7 @@ public:
         const Place place = placeOf(index);
         return m_chunks[place.chunk][place.offset];
     }
+    const T &constFirst() const { return m_chunks.constFirst().constFirst(); }
     const T &constLast() const { return m_chunks.constLast().constLast(); }
     bool contains(const T &value) const { return std::find(begin(), end(), value) != end(); }
 

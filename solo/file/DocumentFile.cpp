@@ -52,7 +52,7 @@ bool hasText(const QByteArray &line)
  * Why the document could not be opened again as a whole; empty if it could. Only texts can get
  * there by hand, by what is pasted into them.
  */
-QString problemOfReading(const QList<QByteArray> &items)
+QString problemOfReading(const LineList &items)
 {
     if (items.size() > DocumentLimits::mostItems)
         return DocumentBounds::tooManyItems();

@@ -114,7 +114,9 @@ void DocumentFileReader::readHostLines()
             addItem(HostRecordReader::read(line), lineNumber(m_at));
     }
     // The host link writes the topmost item first.
-    std::reverse(m_reading.document.items.begin(), m_reading.document.items.end());
+    QByteArrayList fromBelow = m_reading.document.items.toList();
+    std::reverse(fromBelow.begin(), fromBelow.end());
+    m_reading.document.items = fromBelow;
 }
 
 void DocumentFileReader::readHostBlock()

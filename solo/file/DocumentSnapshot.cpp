@@ -24,16 +24,14 @@ void setPaper(TonquillMainWin &window, const Paper &paper)
     DocumentSnapshot::setPrinterPaper(window);
 }
 
-void buildItems(TonquillMainWin &window, const QList<QByteArray> &lines,
-                const ItemSelection &selection)
+void buildItems(TonquillMainWin &window, const LineList &lines, const ItemSelection &selection)
 {
     const QBitArray selected = selection.toBits(lines.size());
-    for (qsizetype i = 0; i < lines.size(); ++i) {
-        const auto state = ItemKinds::catalogue().readLine(QString::fromUtf8(lines[i]));
-        if (!state)
-            continue;
-        QGraphicsItem *item = window.scene->buildItem(*state);
-        item->setSelected(selected.testBit(i));
+    qsizetype index = 0;
+    for (const QByteArray &line : lines) {
+        const bool isSelected = selected.testBit(index++);
+        if (const auto state = ItemKinds::catalogue().readLine(QString::fromUtf8(line)))
+            window.scene->buildItem(*state)->setSelected(isSelected);
     }
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ItemSelection.h"
+#include "LineList.h"
 
-#include <QByteArray>
 #include <QList>
 #include <QRectF>
 #include <QSizeF>
@@ -28,7 +28,7 @@ struct DocumentSnapshot
 {
     Paper paper;
     int pageCount = 1;
-    QList<QByteArray> items;
+    LineList items;
 
     bool operator==(const DocumentSnapshot &) const = default;
 

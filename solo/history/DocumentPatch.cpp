@@ -93,7 +93,7 @@ std::optional<DocumentPatch::Shown> DocumentPatch::apply(TonquillMainWin &window
             QGraphicsItem *item = window.scene->buildItem(*state++);
             putBelow(item, above);
             shown.items.append(item);
-            shown.document.items[i] = DocumentSnapshot::lineOf(item);
+            shown.document.items.set(i, DocumentSnapshot::lineOf(item));
         }
         replaced += items.sliced(hunk.at, hunk.older.size());
     }

@@ -1,7 +1,5 @@
 #include "UndoHistory.h"
 
-#include <algorithm>
-
 namespace
 {
 qsizetype costOf(const QList<QByteArray> &lines)
@@ -107,62 +105,22 @@ UndoHistory::Step UndoHistory::difference(const DocumentSnapshot &older,
                                           const DocumentSnapshot &newer)
 {
     Step step{older.pageCount, newer.pageCount, {}, {}};
-    if (older.items.size() == newer.items.size())
-        appendChangedRuns(step, older.items, newer.items);
-    else
-        step.hunks.append(replacedMiddle(older.items, newer.items));
+    for (const LineList::Change &change : LineList::changes(older.items, newer.items))
+        step.hunks.append({change.at, older.items.sliced(change.at, change.olderCount),
+                           newer.items.sliced(change.at, change.newerCount)});
     return step;
-}
-
-/** For lists of equal length: a hunk for each run of lines that differ. */
-void UndoHistory::appendChangedRuns(Step &step, const QList<QByteArray> &older,
-                                    const QList<QByteArray> &newer)
-{
-    for (qsizetype i = 0; i < older.size(); ++i) {
-        const qsizetype begin = i;
-        while (i < older.size() && older[i] != newer[i])
-            ++i;
-        if (i > begin)
-            step.hunks.append(
-                {begin, older.sliced(begin, i - begin), newer.sliced(begin, i - begin)});
-    }
-}
-
-/** One hunk: what is left between the lines that both lists begin with and end with. */
-UndoHistory::Hunk UndoHistory::replacedMiddle(const QList<QByteArray> &older,
-                                              const QList<QByteArray> &newer)
-{
-    const auto [oldFrom, newFrom] =
-        std::mismatch(older.cbegin(), older.cend(), newer.cbegin(), newer.cend());
-    const qsizetype begin = oldFrom - older.cbegin();
-    qsizetype end = 0;
-    const qsizetype most = qMin(older.size(), newer.size()) - begin;
-    while (end < most && older[older.size() - 1 - end] == newer[newer.size() - 1 - end])
-        ++end;
-    return {begin, older.sliced(begin, older.size() - begin - end),
-            newer.sliced(begin, newer.size() - begin - end)};
-}
-
-void UndoHistory::replace(qsizetype at, qsizetype count, const QList<QByteArray> &lines)
-{
-    QList<QByteArray> &items = m_current.items;
-    if (count > lines.size())
-        items.remove(at, count - lines.size());
-    else if (count < lines.size())
-        items.insert(at, lines.size() - count, QByteArray());
-    std::copy(lines.cbegin(), lines.cend(), items.begin() + at);
 }
 
 void UndoHistory::applyBackward(const Step &step)
 {
     for (const Hunk &hunk : step.hunks)
-        replace(hunk.at, hunk.newer.size(), hunk.older);
+        m_current.items.replace(hunk.at, hunk.newer.size(), hunk.older);
     m_current.pageCount = step.olderPageCount;
 }
 
 void UndoHistory::applyForward(const Step &step)
 {
     for (const Hunk &hunk : step.hunks)
-        replace(hunk.at, hunk.older.size(), hunk.newer);
+        m_current.items.replace(hunk.at, hunk.older.size(), hunk.newer);
     m_current.pageCount = step.newerPageCount;
 }

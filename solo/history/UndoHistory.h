@@ -82,10 +82,6 @@ private:
     };
 
     static Step difference(const DocumentSnapshot &older, const DocumentSnapshot &newer);
-    static void appendChangedRuns(Step &step, const QList<QByteArray> &older,
-                                  const QList<QByteArray> &newer);
-    static Hunk replacedMiddle(const QList<QByteArray> &older, const QList<QByteArray> &newer);
-    void replace(qsizetype at, qsizetype count, const QList<QByteArray> &lines);
     void applyBackward(const Step &step);
     void applyForward(const Step &step);
     void push(const Step &step);

@@ -152,7 +152,7 @@ void CrashTest::aJournalReadInPartIsCopiedOnce()
     file.close();
     const RecoveryJournal journal(folder.path());
     const auto found = journal.find(Paper());
-    QCOMPARE(found->document.items, QByteArrayList{"tonquill_bitmap 1 2 19"});
+    QCOMPARE(found->document.items.toList(), QByteArrayList{"tonquill_bitmap 1 2 19"});
     // Counted as in a file, from behind the journal's own line.
     QVERIFY(found->problems.contains("Line 3"));
 

@@ -102,7 +102,7 @@ void EditWatcherTest::aHeldDeleteIsOneStep()
         glyph->setSelected(true);
     }
     m_edits->reset();
-    const QByteArrayList before = m_edits->document().items;
+    const QByteArrayList before = m_edits->document().items.toList();
     QCOMPARE(before.size(), 4);
     for (int i = 0; i < 3; ++i) {
         QKeyEvent press(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, QString(), i > 0);
@@ -114,7 +114,7 @@ void EditWatcherTest::aHeldDeleteIsOneStep()
         QVERIFY(DocumentSnapshot::capture(*m_window).items.isEmpty());
     }
     QCOMPARE(stepsBack(), 1);
-    QCOMPARE(m_edits->document().items, before);
+    QCOMPARE(m_edits->document().items.toList(), before);
 }
 
 void EditWatcherTest::eachTapOfAnArrowKeyIsAStep()
@@ -146,7 +146,7 @@ void EditWatcherTest::deletionIsAStep()
     QTest::keyClick(m_window->view(), Qt::Key_Delete);
     QTRY_VERIFY(m_edits->document().items.isEmpty());
     QCOMPARE(stepsBack(), 1);
-    QCOMPARE(m_edits->document().items, QByteArrayList{"tonquill_bitmap 200 200 19"});
+    QCOMPARE(m_edits->document().items.toList(), QByteArrayList{"tonquill_bitmap 200 200 19"});
 }
 
 void EditWatcherTest::aRunOfTypingIsOneStep()
@@ -180,7 +180,7 @@ void EditWatcherTest::pagesAreSteps()
     QCOMPARE(m_window->pageCount, 3);
     QCOMPARE(stepsBack(), 2);
     QCOMPARE(m_window->pageCount, 1);
-    QCOMPARE(m_edits->document().items, QByteArrayList{"tonquill_bitmap 200 200 19"});
+    QCOMPARE(m_edits->document().items.toList(), QByteArrayList{"tonquill_bitmap 200 200 19"});
 }
 
 void EditWatcherTest::anItemThatWaitsToBePlacedIsNoEdit()
@@ -220,17 +220,17 @@ void EditWatcherTest::aStepReplacesOnlyWhatItChanged()
         glyphs.constLast()->setPos(300, 300);
     }
     m_edits->reset();
-    const QByteArrayList before = m_edits->document().items;
+    const QByteArrayList before = m_edits->document().items.toList();
     glyphs[1]->moveBy(50, 0);
     m_edits->check();
 
     QVERIFY(m_edits->undo());
 
     QVERIFY(glyphs[0] && !glyphs[1] && glyphs[2]);
-    QCOMPARE(DocumentSnapshot::capture(*m_window).items, before);
-    QCOMPARE(m_edits->document().items, before);
+    QCOMPARE(DocumentSnapshot::capture(*m_window).items.toList(), before);
+    QCOMPARE(m_edits->document().items.toList(), before);
     QVERIFY(m_edits->redo());
-    QCOMPARE(DocumentSnapshot::capture(*m_window).items,
+    QCOMPARE(DocumentSnapshot::capture(*m_window).items.toList(),
              QByteArrayList({"tonquill_bitmap 200 200 19", "tonquill_bitmap 300 300 20",
                              "tonquill_bitmap 350 300 21", "tonquill_bitmap 300 300 22"}));
 }
@@ -240,7 +240,7 @@ void EditWatcherTest::aStepOfManyItemsGoesBackAsWell()
     for (int i = 0; i < 200; ++i)
         m_window->InsertBitmapSymbol(22, false, true)->setPos(i, 400);
     m_edits->reset();
-    const QByteArrayList before = m_edits->document().items;
+    const QByteArrayList before = m_edits->document().items.toList();
     for (QGraphicsItem *item : DocumentSnapshot::itemsOf(*m_window)) {
         item->setSelected(true);
         item->moveBy(0, 7);
@@ -249,7 +249,7 @@ void EditWatcherTest::aStepOfManyItemsGoesBackAsWell()
 
     QVERIFY(m_edits->undo());
 
-    QCOMPARE(DocumentSnapshot::capture(*m_window).items, before);
+    QCOMPARE(DocumentSnapshot::capture(*m_window).items.toList(), before);
     QCOMPARE(m_window->scene->selectedItems().size(), 201);
 }
 
@@ -267,7 +267,7 @@ void EditWatcherTest::anItemOfAnEmbeddingProgramIsNoPartOfTheDocument()
     QCOMPARE(embedded->type(), int(TonquillBitmap::Type));
     m_window->scene->addItem(embedded);
     m_edits->check();
-    QCOMPARE(m_edits->document().items, QByteArrayList{"tonquill_bitmap 200 200 19"});
+    QCOMPARE(m_edits->document().items.toList(), QByteArrayList{"tonquill_bitmap 200 200 19"});
     QVERIFY(!DocumentSnapshot::isItemHeld(*m_window));
 }
 

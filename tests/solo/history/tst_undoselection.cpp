@@ -126,14 +126,14 @@ void UndoSelectionTest::undoingAPasteSelectsWhatWasCopied()
     for (int i = 0; i < count; i += i % 4 == 0 ? 1 : 2)
         wanted.append(i);
     select(wanted);
-    const QByteArrayList lines = m_edits->document().items;
+    const QByteArrayList lines = m_edits->document().items.toList();
     type(Qt::Key_C, Qt::ControlModifier);
     type(Qt::Key_V, Qt::ControlModifier);
     QCOMPARE(m_edits->document().items.size(), lines.size() + wanted.size());
 
     QVERIFY(m_edits->undo());
 
-    QCOMPARE(m_edits->document().items, lines);
+    QCOMPARE(m_edits->document().items.toList(), lines);
     QCOMPARE(selected(), wanted);
 }
 
@@ -182,13 +182,13 @@ void UndoSelectionTest::undoingADragSelectsWhatWasDragged()
     QCoreApplication::sendEvent(viewport, &move);
     QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, place + QPoint(40, 30));
     m_edits->check();
-    QCOMPARE(m_edits->document().items,
+    QCOMPARE(m_edits->document().items.toList(),
              QByteArrayList({"tonquill_bitmap 100 100 19", "tonquill_bitmap 240 130 19"}));
     select({0});
 
     QVERIFY(m_edits->undo());
 
-    QCOMPARE(m_edits->document().items,
+    QCOMPARE(m_edits->document().items.toList(),
              QByteArrayList({"tonquill_bitmap 100 100 19", "tonquill_bitmap 200 100 19"}));
     QCOMPARE(selected(), Indices{1});
 }
@@ -285,7 +285,7 @@ void UndoSelectionTest::everyStateComesBackWithItsSelection()
             states.append(now);
         }
         QCOMPARE(m_window->pageCount, states[at].document.pageCount);
-        QCOMPARE(Sight::of(*m_window).document.items, states[at].document.items);
+        QCOMPARE(Sight::of(*m_window).document.items.toList(), states[at].document.items.toList());
         QCOMPARE(selected(), states[at].selected);
     }
     QVERIFY(states.size() > 2);

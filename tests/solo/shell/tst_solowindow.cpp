@@ -216,10 +216,10 @@ void SoloWindowTest::copyAndPasteFromTheMenuActOnce()
     entry("Select All")->trigger();
     entry("Copy")->trigger();
     entry("Paste")->trigger();
-    QTRY_COMPARE(m_solo->session().edits().document().items,
+    QTRY_COMPARE(m_solo->session().edits().document().items.toList(),
                  (QByteArrayList{"tonquill_bitmap 200 200 19", "tonquill_bitmap 230 230 19"}));
     entry("Delete")->trigger();
-    QTRY_COMPARE(m_solo->session().edits().document().items,
+    QTRY_COMPARE(m_solo->session().edits().document().items.toList(),
                  QByteArrayList{"tonquill_bitmap 230 230 19"});
 }
 
@@ -282,7 +282,7 @@ void SoloWindowTest::aSavedFileIsInOpenRecent()
     QCOMPARE(recent->text(), QString("rock && roll.tonquill"));
     recent->trigger();
     QCOMPARE(m_solo->session().path(), path);
-    QCOMPARE(m_solo->session().edits().document().items,
+    QCOMPARE(m_solo->session().edits().document().items.toList(),
              QByteArrayList{"tonquill_bitmap 200 200 19"});
 }
 
@@ -443,7 +443,8 @@ void SoloWindowTest::partOfADamagedFileIsOffered()
     answerBox(QMessageBox::AcceptRole, &said);
     m_solo->files().openFile(path);
     QVERIFY(said.contains("Line 3"));
-    QCOMPARE(m_solo->session().edits().document().items, QByteArrayList{"tonquill_bitmap 1 2 19"});
+    QCOMPARE(m_solo->session().edits().document().items.toList(),
+             QByteArrayList{"tonquill_bitmap 1 2 19"});
     QVERIFY(m_solo->session().isModified());
 }
 
@@ -460,7 +461,8 @@ void SoloWindowTest::aReloadThatShowsNothingLeavesUnsavedWork()
     });
     m_solo->files().lookForOutsideChange();
     QVERIFY2(said.contains("This is not a Tonquill document."), qPrintable(said));
-    QCOMPARE(m_solo->session().edits().document().items, QByteArrayList{"tonquill_bitmap 1 2 19"});
+    QCOMPARE(m_solo->session().edits().document().items.toList(),
+             QByteArrayList{"tonquill_bitmap 1 2 19"});
     QVERIFY(m_solo->session().isModified());
 }
 
@@ -495,7 +497,8 @@ void SoloWindowTest::aJournalThatCannotBeCopiedIsNotWrittenOver()
     }
     QVERIFY2(said.contains("Until this file is moved, no further changes"), qPrintable(said));
     QVERIFY2(said.contains(journal), qPrintable(said));
-    QCOMPARE(m_solo->session().edits().document().items, QByteArrayList{"tonquill_bitmap 1 2 19"});
+    QCOMPARE(m_solo->session().edits().document().items.toList(),
+             QByteArrayList{"tonquill_bitmap 1 2 19"});
     placeNote();
     QVERIFY(!m_solo->session().journal().write(m_solo->session().edits().document(), QString()));
     QFile file(journal);
