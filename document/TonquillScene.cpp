@@ -132,6 +132,13 @@ void TonquillScene::setItemObserver(ItemObserver *observer)
     }
 }
 
+void TonquillScene::stackBelow(QGraphicsItem &item, const QGraphicsItem &above)
+{
+    item.stackBefore(&above);
+    if (observer())
+        observer()->itemStackedBelow(item, above);
+}
+
 bool TonquillScene::isNewItemIsAdding()
 {
     m_waiting.removeIf([this](const ItemReference &waiting) {

@@ -1,6 +1,9 @@
 #include "DocumentItem.h"
 
+#include <QAbstractTextDocumentLayout>
+#include <QGraphicsObject>
 #include <QGraphicsScene>
+#include <QTextDocument>
 
 void DocumentItem::announce(ItemEvent event)
 {
@@ -24,10 +27,9 @@ void DocumentItem::joinScene()
         return;
     if (registry->observer())
         setObserved(true);
+    announce(isWaiting() ? ItemEvent::Awaited : ItemEvent::Added);
     if (isWaiting())
         registry->itemAwaitsPlacing(&item);
-    else
-        announce(ItemEvent::Added);
 }
 
 void DocumentItem::announceChange(QGraphicsItem::GraphicsItemChange change)
@@ -51,6 +53,12 @@ void DocumentItem::announceChange(QGraphicsItem::GraphicsItemChange change)
     default:
         break;
     }
+}
+
+void DocumentItem::announceChangesOf(const QTextDocument &text)
+{
+    QObject::connect(text.documentLayout(), &QAbstractTextDocumentLayout::update,
+                     graphicsItem().toGraphicsObject(), [this] { announce(ItemEvent::Altered); });
 }
 
 int DocumentItem::resizingAnchorAt(QPointF) const

@@ -9,6 +9,8 @@
 
 #include <utility>
 
+class QTextDocument;
+
 /** In what the kinds of items differ while the pointer acts on them. */
 struct PointerManners
 {
@@ -91,6 +93,12 @@ protected:
     void press(const QGraphicsSceneMouseEvent &event);
     void move(const QGraphicsSceneMouseEvent &event);
     void release(const QGraphicsSceneMouseEvent &event);
+
+    /**
+     * To be called by an item that shows this text, which it owns: words, formats, font and width
+     * may be changed by many, but none of it without laying out the text anew.
+     */
+    void announceChangesOf(const QTextDocument &text);
 
     /** To be called from the item's itemChange(). */
     void announceChange(QGraphicsItem::GraphicsItemChange change);

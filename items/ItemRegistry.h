@@ -5,6 +5,7 @@ class QGraphicsScene;
 
 /** What became of an item of the document. */
 enum class ItemEvent {
+    Awaited,   ///< it is on the scene, on top of all of its height, and waits to be placed
     Added,     ///< it is on the scene and placed: from now on it is a part of the document
     Removed,   ///< it leaves the scene or is deleted; only its address may be used
     Moved,     ///< its position is another one
@@ -20,6 +21,9 @@ public:
 
     /** Told at once. An item that waits to be placed may be told of, too. */
     virtual void itemChanged(QGraphicsItem &item, ItemEvent event) = 0;
+
+    /** `item` was put right below `above`, which is of the same height. */
+    virtual void itemStackedBelow(QGraphicsItem &item, const QGraphicsItem &above) = 0;
 };
 
 /** A scene's side of what items tell it. */

@@ -34,6 +34,7 @@ void TonquillBitmap::setInverted(bool inverted)
     setPixmap(std::exchange(m_otherPixmap, shown));
     const QSize normal = (inverted ? m_otherPixmap : pixmap()).size();
     setOffset(-SymbolTable::referencePoint(data(ItemData::symbolId).toInt(), normal, inverted));
+    announce(ItemEvent::Altered);
 }
 
 QString TonquillBitmap::getParamStr()

@@ -14,6 +14,7 @@ TonquillText::TonquillText(bool adding, QGraphicsItem *parent)
     setZValue(symbolZValue);
     frame().setZValue(0.0);
     setSelected(true);
+    announceChangesOf(*document());
     setData(ItemData::keyword, Records::textKeyword());
 }
 
@@ -32,6 +33,12 @@ bool TonquillText::hasMenu() const
 {
     static const QMetaMethod asked = QMetaMethod::fromSignal(&TonquillText::showTextItemMenu);
     return isSignalConnected(asked);
+}
+
+void TonquillText::setDefaultTextColor(const QColor &color)
+{
+    QGraphicsTextItem::setDefaultTextColor(color);
+    announce(ItemEvent::Altered);
 }
 
 QString TonquillText::getParamStr()

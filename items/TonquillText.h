@@ -28,6 +28,9 @@ public:
     /** Moves the anchor to the bottom-left corner, after text or font were changed. */
     void moveAnchorToCorner();
 
+    /** As Qt's own, which tells nobody of it. */
+    void setDefaultTextColor(const QColor &color);
+
     int type() const override { return Type; }
 
     /** True if anybody is told of a right press on it. */

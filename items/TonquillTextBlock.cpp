@@ -38,6 +38,7 @@ TonquillTextBlock::TonquillTextBlock(bool adding, const QString &text, const QRe
     frame().setZValue(0.0);
     setSelected(adding);
     setDocument(new SelfContainedText(this));
+    announceChangesOf(*document());
     if (defaultTextColor() != Qt::black)
         setDefaultTextColor(Qt::black); // on a dark desktop it would be that of the windows
 
@@ -97,6 +98,7 @@ void TonquillTextBlock::setCorners(QPointF topLeft, QPointF bottomRight)
     m_topLeft = topLeft;
     m_bottomRight = bottomRight;
     frame().setAnchors({topLeft, bottomRight});
+    announce(ItemEvent::Altered);
 }
 
 void TonquillTextBlock::updateFrame()
@@ -172,6 +174,7 @@ void TonquillTextBlock::dragAnchorTo(int anchor, QPointF point)
     frame().parentBoundsAboutToChange();
     m_bottomRight = point;
     frame().setAnchor(anchor, point);
+    announce(ItemEvent::Altered);
     letOthersPaintAndFitText();
 }
 

@@ -57,6 +57,7 @@ void TonquillVectorItem::dragAnchorTo(int anchor, QPointF point)
     frame().setAnchor(anchor, point);
     pointsChanged();
     update();
+    announce(ItemEvent::Altered);
 }
 
 void TonquillVectorItem::mousePressEvent(QGraphicsSceneMouseEvent *event)

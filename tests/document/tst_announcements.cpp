@@ -4,11 +4,15 @@
 #include "TestMain.h"
 #include "TonquillBitmap.h"
 #include "TonquillScene.h"
+#include "TonquillText.h"
 #include "TonquillTextBlock.h"
 #include "TonquillTimeSig.h"
 #include "TonquillVectorNoteTie.h"
 
 #include <QKeyEvent>
+#include <QTextCursor>
+
+#include <functional>
 
 namespace
 {
@@ -21,6 +25,10 @@ public:
     void itemChanged(QGraphicsItem &item, ItemEvent event) override
     {
         heard.append({&item, event});
+    }
+    void itemStackedBelow(QGraphicsItem &item, const QGraphicsItem &above) override
+    {
+        stacked.append({&item, &above});
     }
 
     /** What was told of this item since the last call. */
@@ -36,6 +44,7 @@ public:
     }
 
     Heard heard;
+    QList<std::pair<const QGraphicsItem *, const QGraphicsItem *>> stacked;
 };
 
 const QList<ItemEvent> nothing;
@@ -58,6 +67,14 @@ private Q_SLOTS:
     void ofItemsThatMoveWithTheirPage();
     void ofAnItemThatIsTakenOffOrDeleted();
     void ofHeightAndRotation();
+    void ofAnItemThatIsPutBelowAnother();
+    void ofAnItemThatWaits();
+    void ofWhatAGlyphShows();
+    void ofThePointsOfAFigure();
+    void ofATextsLook_data();
+    void ofATextsLook();
+    void ofABlocksTextAndShape_data();
+    void ofABlocksTextAndShape();
     void ofItemsFromBefore();
     void toNobody();
     void editsAreFinishedWithoutAWindow();
@@ -181,6 +198,103 @@ void AnnouncementsTest::ofHeightAndRotation()
     QCOMPARE(m_listener.takeOf(item), QList{ItemEvent::Restacked});
     item->setRotation(30);
     QCOMPARE(m_listener.takeOf(item), QList{ItemEvent::Altered});
+}
+
+void AnnouncementsTest::ofAnItemThatIsPutBelowAnother()
+{
+    TonquillTimeSig *lower = placed(QPointF(100, 100));
+    TonquillTimeSig *upper = placed(QPointF(100, 100));
+    m_scene->stackBelow(*upper, *lower);
+    QCOMPARE(m_listener.stacked.size(), 1);
+    QCOMPARE(m_listener.stacked.constFirst().first, upper);
+    QCOMPARE(m_listener.stacked.constFirst().second, lower);
+    QCOMPARE(m_scene->itemsFromTop().constFirst()->topLevelItem(), lower);
+}
+
+/** Where it lies is decided when it comes, not when it is placed. */
+void AnnouncementsTest::ofAnItemThatWaits()
+{
+    auto *item = new TonquillVectorNoteTie(true, QPointF(), QPointF());
+    m_scene->addNewItem(item);
+    QCOMPARE(m_listener.takeOf(item), QList{ItemEvent::Awaited});
+}
+
+void AnnouncementsTest::ofWhatAGlyphShows()
+{
+    TonquillBitmap *item = m_scene->insertSymbol(2, false, true);
+    m_listener.heard.clear();
+    item->setInverted(true);
+    QCOMPARE(m_listener.takeOf(item), QList{ItemEvent::Altered});
+    item->setInverted(true);
+    QCOMPARE(m_listener.takeOf(item), nothing);
+}
+
+void AnnouncementsTest::ofThePointsOfAFigure()
+{
+    auto *item = new TonquillVectorNoteTie(false, QPointF(0, 0), QPointF(80, 40));
+    m_scene->addNewItem(item);
+    item->setPos(100, 100);
+    m_listener.heard.clear();
+    ScenePointer(*m_scene).drag(QPointF(180, 140), QPointF(200, 150));
+    QVERIFY(m_listener.takeOf(item).contains(ItemEvent::Altered));
+    QCOMPARE(item->endPoint(), QPointF(100, 50));
+}
+
+void AnnouncementsTest::ofATextsLook_data()
+{
+    using Change = std::function<void(TonquillText &)>;
+    QTest::addColumn<Change>("change");
+    QTest::newRow("words") << Change([](auto &text) { text.setPlainText("Coda"); });
+    QTest::newRow("font") << Change([](auto &text) { text.setFont(QFont("Arial", 30)); });
+    QTest::newRow("style of the same width") << Change([](auto &text) {
+        QFont font = text.font();
+        font.setUnderline(!font.underline());
+        text.setFont(font);
+    });
+    QTest::newRow("colour") << Change([](auto &text) { text.setDefaultTextColor(Qt::red); });
+}
+
+void AnnouncementsTest::ofATextsLook()
+{
+    QFETCH(std::function<void(TonquillText &)>, change);
+    auto *item = new TonquillText(false);
+    item->setPlainText("Fine");
+    m_scene->addNewItem(item);
+    m_listener.heard.clear();
+    change(*item);
+    QVERIFY(m_listener.takeOf(item).contains(ItemEvent::Altered));
+}
+
+void AnnouncementsTest::ofABlocksTextAndShape_data()
+{
+    using Change = std::function<void(TonquillTextBlock &)>;
+    QTest::addColumn<Change>("change");
+    QTest::newRow("words") << Change([](auto &block) { block.setPlainText("other words"); });
+    QTest::newRow("formatted words") << Change([](auto &block) { block.setHtml("<b>bold</b>"); });
+    QTest::newRow("format alone") << Change([](auto &block) {
+        QTextCursor cursor(block.document());
+        cursor.select(QTextCursor::Document);
+        QTextCharFormat red;
+        red.setForeground(Qt::red);
+        cursor.mergeCharFormat(red);
+    });
+    QTest::newRow("typed") << Change(
+        [](auto &block) { QTextCursor(block.document()).insertText("x"); });
+    QTest::newRow("font") << Change([](auto &block) { block.setFont(QFont("Arial", 30)); });
+    QTest::newRow("width of its text") << Change([](auto &block) { block.setTextWidth(50); });
+    QTest::newRow("shape") << Change(
+        [](auto &block) { block.setCorners(QPointF(1, 2), QPointF(30, 40)); });
+    QTest::newRow("frame") << Change([](auto &block) { block.updateFrame(); });
+}
+
+void AnnouncementsTest::ofABlocksTextAndShape()
+{
+    QFETCH(std::function<void(TonquillTextBlock &)>, change);
+    auto *item = new TonquillTextBlock(false, "some words", QRectF(0, 0, 200, 60));
+    m_scene->addNewItem(item);
+    m_listener.heard.clear();
+    change(*item);
+    QVERIFY(m_listener.takeOf(item).contains(ItemEvent::Altered));
 }
 
 /** Those that stood on the scene when somebody began to listen. */
