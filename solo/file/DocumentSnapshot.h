@@ -3,6 +3,7 @@
 #include "ItemSelection.h"
 #include "LineList.h"
 
+#include <QByteArray>
 #include <QList>
 #include <QRectF>
 #include <QSizeF>
@@ -44,6 +45,9 @@ struct DocumentSnapshot
      * exactly these items are selected.
      */
     void restore(TonquillMainWin &window, const ItemSelection &selection = {}) const;
+
+    /** The line of an item; empty if the item is no part of the document, or not yet. */
+    static QByteArray lineOf(const QGraphicsItem *item);
 
     /** The items on the window's pages, from the lowest to the topmost; none that is another's. */
     static QList<QGraphicsItem *> itemsOf(const TonquillMainWin &window);

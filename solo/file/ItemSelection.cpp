@@ -1,17 +1,5 @@
 #include "ItemSelection.h"
 
-#include <QGraphicsItem>
-
-ItemSelection ItemSelection::of(const QList<QGraphicsItem *> &items)
-{
-    ItemSelection result;
-    for (qsizetype i = 0; i < items.size(); ++i) {
-        if (items[i]->isSelected())
-            result.append(i);
-    }
-    return result;
-}
-
 void ItemSelection::append(qsizetype index)
 {
     if (!m_runs.isEmpty() && m_runs.constLast().first + m_runs.constLast().count == index)
@@ -28,9 +16,12 @@ QBitArray ItemSelection::toBits(qsizetype count) const
     return bits;
 }
 
-void ItemSelection::apply(const QList<QGraphicsItem *> &items) const
+QList<qsizetype> ItemSelection::indices() const
 {
-    const QBitArray selected = toBits(items.size());
-    for (qsizetype i = 0; i < items.size(); ++i)
-        items[i]->setSelected(selected.testBit(i));
+    QList<qsizetype> indices;
+    for (const Run &run : m_runs) {
+        for (qsizetype i = 0; i < run.count; ++i)
+            indices.append(run.first + i);
+    }
+    return indices;
 }

@@ -3,8 +3,6 @@
 #include <QBitArray>
 #include <QList>
 
-class QGraphicsItem;
-
 /**
  * Which items of a document are selected, by their index from the lowest to the topmost. Kept as
  * runs of neighbours, so that a selection of everything is as small as one of a single item.
@@ -12,17 +10,14 @@ class QGraphicsItem;
 class ItemSelection
 {
 public:
-    /** The selected ones of these items. */
-    static ItemSelection of(const QList<QGraphicsItem *> &items);
-
     /** Adds an index, which is larger than those before. */
     void append(qsizetype index);
 
     /** A bit for each of `count` items, set for the selected ones. */
     QBitArray toBits(qsizetype count) const;
 
-    /** Selects exactly these ones of the items. */
-    void apply(const QList<QGraphicsItem *> &items) const;
+    /** The indices, in order. */
+    QList<qsizetype> indices() const;
 
     /** The bytes that the runs hold. */
     qsizetype cost() const { return m_runs.size() * qsizetype(sizeof(Run)); }

@@ -1,10 +1,14 @@
 #include "DocumentPatch.h"
 
+#include "DocumentMirror.h"
 #include "ItemKinds.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 #include "TonquillTextBlock.h"
 #include "TonquillView.h"
+
+#include <algorithm>
+#include <optional>
 
 namespace
 {
@@ -28,22 +32,18 @@ bool isBusy(const TonquillMainWin &window)
     return DocumentSnapshot::isItemHeld(window) || (block && TonquillTextBlock::isEdited(*block));
 }
 
-/** True if `items` are those that the lines were written of, as far as the hunks tell. */
-bool matches(const QList<QGraphicsItem *> &items, const Hunks &hunks, qsizetype newerCount)
+/** True if the mirror has the lines from before the hunks, as far as those tell. */
+bool matches(const DocumentMirror &mirror, const Hunks &hunks, qsizetype newerCount)
 {
+    const LineList &lines = mirror.document().items;
     qsizetype olderCount = newerCount;
     for (const UndoHistory::Hunk &hunk : hunks)
         olderCount += hunk.older.size() - hunk.newer.size();
-    // An item that waits to be placed has no line, and would be one too many.
-    if (items.size() != olderCount)
+    if (mirror.isItemWaiting() || lines.size() != olderCount)
         return false;
-    for (const UndoHistory::Hunk &hunk : hunks) {
-        for (qsizetype i = 0; i < hunk.older.size(); ++i) {
-            if (DocumentSnapshot::lineOf(items[hunk.at + i]) != hunk.older[i])
-                return false;
-        }
-    }
-    return true;
+    return std::all_of(hunks.cbegin(), hunks.cend(), [&lines](const UndoHistory::Hunk &hunk) {
+        return lines.sliced(hunk.at, hunk.older.size()) == hunk.older;
+    });
 }
 
 /** The states of all newer lines, hunk by hunk; nothing if one cannot be read. */
@@ -60,47 +60,40 @@ std::optional<QList<ItemState>> newStates(const Hunks &hunks)
     }
     return states;
 }
-
-/** Puts a new item, which is on top of all of its height, right below the one that follows it. */
-void putBelow(QGraphicsItem *item, const QGraphicsItem *above)
-{
-    if (above && above->zValue() == item->zValue())
-        item->stackBefore(above);
-}
 } // namespace
 
-std::optional<DocumentPatch::Shown> DocumentPatch::apply(TonquillMainWin &window,
-                                                         const Hunks &hunks,
-                                                         const DocumentSnapshot &wanted,
-                                                         const ItemSelection &selection)
+bool DocumentPatch::apply(TonquillMainWin &window, DocumentMirror &mirror, const Hunks &hunks,
+                          const DocumentSnapshot &wanted, const ItemSelection &selection)
 {
     if (!isSmall(hunks) || isBusy(window) || wanted.paper != DocumentSnapshot::paperOf(window))
-        return std::nullopt;
-    const QList<QGraphicsItem *> items = DocumentSnapshot::itemsOf(window);
+        return false;
+    mirror.refresh();
     const auto states = newStates(hunks);
-    if (!states || !matches(items, hunks, wanted.items.size()))
-        return std::nullopt;
+    if (!states || !matches(mirror, hunks, wanted.items.size()))
+        return false;
 
-    Shown shown{wanted, {}};
+    // Which items they are is asked before the first one comes.
     QList<QGraphicsItem *> replaced;
-    qsizetype next = 0;
-    auto state = states->cbegin();
+    QList<QGraphicsItem *> following;
     for (const UndoHistory::Hunk &hunk : hunks) {
-        shown.items += items.sliced(next, hunk.at - next);
-        next = hunk.at + hunk.older.size();
-        const QGraphicsItem *above = items.value(next);
-        for (qsizetype i = hunk.at; i < hunk.at + hunk.newer.size(); ++i) {
-            QGraphicsItem *item = window.scene->buildItem(*state++);
-            putBelow(item, above);
-            shown.items.append(item);
-            shown.document.items.set(i, DocumentSnapshot::lineOf(item));
-        }
-        replaced += items.sliced(hunk.at, hunk.older.size());
+        const qsizetype end = hunk.at + hunk.older.size();
+        for (qsizetype i = hunk.at; i < end; ++i)
+            replaced.append(mirror.itemAt(i));
+        following.append(end < mirror.document().items.size() ? mirror.itemAt(end) : nullptr);
     }
-    shown.items += items.sliced(next);
+    auto state = states->cbegin();
+    for (qsizetype i = 0; i < hunks.size(); ++i) {
+        for (qsizetype n = 0; n < hunks[i].newer.size(); ++n) {
+            QGraphicsItem *item = window.scene->buildItem(*state++);
+            // It is on top of all of its height.
+            if (following[i] && following[i]->zValue() == item->zValue())
+                window.scene->stackBelow(*item, *following[i]);
+        }
+    }
     window.scene->destroyItems(replaced);
-    selection.apply(shown.items);
     window.scene->setPageNum(wanted.pageCount);
     window.onViewScroll(window.view()->curScenePos());
-    return shown;
+    mirror.refresh();
+    mirror.select(selection);
+    return true;
 }

@@ -2,8 +2,7 @@
 
 #include "UndoHistory.h"
 
-#include <optional>
-
+class DocumentMirror;
 class TonquillMainWin;
 
 /**
@@ -12,22 +11,15 @@ class TonquillMainWin;
  */
 namespace DocumentPatch
 {
-/** A document as a window shows it, and the item of each of its lines. */
-struct Shown
-{
-    DocumentSnapshot document;
-    QList<QGraphicsItem *> items;
-};
-
 /**
  * Replaces the items of the hunks' older lines by items of the newer ones, which makes the
- * window's document `wanted`, and selects exactly the items of the selection. The answer is the
- * document as the window then shows it.
+ * window's document `wanted`, and selects exactly the items of the selection. The mirror, which
+ * tells the items of lines, is up to date then.
  *
- * Without an answer nothing was changed: there is too much to replace, something is being placed,
- * moved or typed, or the window does not show the older lines. DocumentSnapshot::restore() is
- * always possible.
+ * False if nothing was changed: there is too much to replace, something is being placed, moved or
+ * typed, or the window does not show the older lines. DocumentSnapshot::restore() is always
+ * possible.
  */
-std::optional<Shown> apply(TonquillMainWin &window, const QList<UndoHistory::Hunk> &hunks,
-                           const DocumentSnapshot &wanted, const ItemSelection &selection);
+bool apply(TonquillMainWin &window, DocumentMirror &mirror, const QList<UndoHistory::Hunk> &hunks,
+           const DocumentSnapshot &wanted, const ItemSelection &selection);
 } // namespace DocumentPatch

@@ -24,7 +24,7 @@ DocumentSession::DocumentSession(TonquillMainWin &window, const QString &folder)
     : m_window(window)
     , m_edits(window)
     , m_journal(folder)
-    , m_empty(DocumentSnapshot::capture(window))
+    , m_empty(m_edits.document())
     , m_saved(m_empty)
 {
     m_journalDue.setSingleShot(true);
@@ -185,7 +185,7 @@ void DocumentSession::writeJournal()
     QElapsedTimer cost;
     cost.start();
     // Not only finished edits: a long gesture must not be lost either.
-    const DocumentSnapshot now = DocumentSnapshot::capture(m_window);
+    const DocumentSnapshot now = m_edits.documentNow();
     if (now == m_saved && !m_differsFromFile) {
         m_journal.discard();
         m_journalled = DocumentSnapshot();

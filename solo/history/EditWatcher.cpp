@@ -8,7 +8,6 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QSet>
 #include <QWidget>
 
 namespace
@@ -64,35 +63,11 @@ bool beginsEdit(const QEvent &event)
     return event.type() == QEvent::MouseButtonPress ||
            (event.type() == QEvent::KeyPress && !isAutoRepeat(event));
 }
-
-/** True if no item came or went, and those that are another way now are all selected. */
-bool isEditOfSelection(const DocumentSnapshot &older, const DocumentSnapshot &newer,
-                       const QList<QGraphicsItem *> &items)
-{
-    if (older.items.size() != newer.items.size() || older.pageCount != newer.pageCount)
-        return false;
-    for (qsizetype i = 0; i < items.size(); ++i) {
-        if (!items[i]->isSelected() && older.items[i] != newer.items[i])
-            return false;
-    }
-    return true;
-}
-
-ItemSelection selectionAmong(const QList<QGraphicsItem *> &items,
-                             const QList<QGraphicsItem *> &selected)
-{
-    const QSet<QGraphicsItem *> wanted(selected.cbegin(), selected.cend());
-    ItemSelection result;
-    for (qsizetype i = 0; i < items.size(); ++i) {
-        if (wanted.contains(items[i]))
-            result.append(i);
-    }
-    return result;
-}
 } // namespace
 
 EditWatcher::EditWatcher(TonquillMainWin &window)
     : m_window(window)
+    , m_mirror(window)
 {
     m_soon.setSingleShot(true);
     m_soon.setInterval(0);
@@ -123,10 +98,22 @@ void EditWatcher::reset()
 {
     m_soon.stop();
     m_typedIn.clear();
-    QList<QGraphicsItem *> items;
-    m_history.reset(DocumentSnapshot::capture(m_window, &items));
-    remember(items);
+    m_mirror.readAll();
+    m_history.reset(m_mirror.document());
+    rememberSelection();
     Q_EMIT documentChanged();
+}
+
+const DocumentSnapshot &EditWatcher::documentNow()
+{
+    m_mirror.refresh();
+    return m_mirror.document();
+}
+
+/** What is selected now, of the document as the mirror has it. */
+ItemSelection EditWatcher::selection() const
+{
+    return m_mirror.selectionOf(m_window.scene->selectedItems());
 }
 
 /** What is selected while the document is still as it was at the last check. */
@@ -134,39 +121,51 @@ void EditWatcher::noteSelection()
 {
     if (!m_selectionChanged || m_soon.isActive())
         return;
-    m_noted = m_window.scene->selectedItems();
+    m_noted = selection();
     m_selectionChanged = false;
 }
 
-/** These are the items of the current state, and those of them that are selected its selection. */
-void EditWatcher::remember(const QList<QGraphicsItem *> &items)
+/** What is selected now is the selection of the current state. */
+void EditWatcher::rememberSelection()
 {
-    m_items = items;
-    m_history.select(ItemSelection::of(items));
+    m_history.select(selection());
     m_noted.reset();
     m_selectionChanged = false;
+}
+
+/** True if no item came or went, and those that are another way now are all selected. */
+bool EditWatcher::isEditOfSelection() const
+{
+    const DocumentSnapshot &older = m_history.current();
+    const DocumentSnapshot &newer = m_mirror.document();
+    if (older.items.size() != newer.items.size() || older.pageCount != newer.pageCount)
+        return false;
+    for (const LineList::Change &change : LineList::changes(older.items, newer.items)) {
+        for (qsizetype i = change.at; i < change.at + change.newerCount; ++i) {
+            if (!m_mirror.itemAt(i)->isSelected())
+                return false;
+        }
+    }
+    return true;
 }
 
 void EditWatcher::check()
 {
     if (DocumentSnapshot::isItemHeld(m_window))
         return;
-    QList<QGraphicsItem *> items;
-    const DocumentSnapshot now = DocumentSnapshot::capture(m_window, &items);
-    if (now == m_history.current()) {
-        m_items = items;
-        // To ask every item would make a key that changes nothing slower.
+    if (documentNow() == m_history.current()) {
+        // To ask about what is selected would make a key that changes nothing slower.
         if (m_selectionChanged || m_noted)
-            remember(items);
+            rememberSelection();
         return;
     }
     // A drag often begins with the press that selects what it moves, and nobody saw that alone.
-    if (isEditOfSelection(m_history.current(), now, items))
-        m_history.select(ItemSelection::of(items));
+    if (isEditOfSelection())
+        m_history.select(selection());
     else if (m_noted)
-        m_history.select(selectionAmong(m_items, *m_noted));
-    m_history.record(now, continuesTyping());
-    remember(items);
+        m_history.select(*m_noted);
+    m_history.record(m_mirror.document(), continuesTyping());
+    rememberSelection();
     m_typedIn = editedBlock(*m_window.scene);
     m_sinceTyped.start();
     Q_EMIT documentChanged();
@@ -201,18 +200,12 @@ bool EditWatcher::redo()
 void EditWatcher::showCurrent()
 {
     m_typedIn.clear();
-    // What Qt tells differently after rebuilding, such as formatted text, is no edit.
     const DocumentSnapshot wanted = m_history.current();
-    const ItemSelection selection = m_history.selection();
-    if (const auto shown =
-            DocumentPatch::apply(m_window, m_history.lastHunks(), wanted, selection)) {
-        m_history.adopt(shown->document);
-        remember(shown->items);
-    } else {
-        wanted.restore(m_window, selection);
-        QList<QGraphicsItem *> items;
-        m_history.adopt(DocumentSnapshot::capture(m_window, &items));
-        remember(items);
-    }
+    const ItemSelection selected = m_history.selection();
+    if (!DocumentPatch::apply(m_window, m_mirror, m_history.lastHunks(), wanted, selected))
+        wanted.restore(m_window, selected);
+    // What Qt tells differently after rebuilding, such as formatted text, is no edit.
+    m_history.adopt(documentNow());
+    rememberSelection();
     Q_EMIT documentChanged();
 }

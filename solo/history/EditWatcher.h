@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DocumentMirror.h"
 #include "UndoHistory.h"
 
 #include <QElapsedTimer>
@@ -9,14 +10,13 @@
 
 #include <optional>
 
-class QGraphicsItem;
 class TonquillMainWin;
 
 /**
  * Finds out what the user's edits are, and takes them back.
  *
  * The editor reports finished pointer edits and deletions only, so after everything that can end
- * an edit the scene is compared with the last known state: the editor's messages, the release of
+ * an edit the document is compared with the last known state: the editor's messages, the release of
  * a key or button, a closed menu or dialog, a change of focus. A run of typing in one block is
  * one step, and so is a key that is held down.
  *
@@ -36,6 +36,9 @@ public:
 
     /** The document after the last finished edit. */
     const DocumentSnapshot &document() const { return m_history.current(); }
+
+    /** The document as it is now, in the middle of an edit or not. */
+    const DocumentSnapshot &documentNow();
 
     /** Goes one step back or forward; false if there is none. */
     bool undo();
@@ -62,15 +65,16 @@ private:
     void showCurrent();
     bool continuesTyping();
     void noteSelection();
-    void remember(const QList<QGraphicsItem *> &items);
+    void rememberSelection();
+    ItemSelection selection() const;
+    bool isEditOfSelection() const;
 
     TonquillMainWin &m_window;
+    DocumentMirror m_mirror;
     UndoHistory m_history;
     QTimer m_soon;
     QPointer<QObject> m_typedIn; ///< the block that the last step typed in
     QElapsedTimer m_sinceTyped;
-    // Items may be gone by now: these lists are only compared with each other.
-    QList<QGraphicsItem *> m_items;                ///< of the lines of the current state
-    std::optional<QList<QGraphicsItem *>> m_noted; ///< selected in it, later than the history knows
-    bool m_selectionChanged = false;               ///< since it was noted or remembered
+    std::optional<ItemSelection> m_noted; ///< in the current state, later than the history knows
+    bool m_selectionChanged = false;      ///< since it was noted or remembered
 };
