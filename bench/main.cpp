@@ -22,6 +22,7 @@ void addRows()
     Rows::addMemory();
     Rows::addStart();
     Rows::addSolo();
+    Rows::addSoloEditing();
 }
 
 /**
