@@ -135,7 +135,10 @@ public:
     /** Sets the observer of all changes of items; not owned, null for none. */
     void setItemObserver(ItemObserver *observer) override;
 
-    /** Puts an item right below another one of the same height. Neither has a parent. */
+    /**
+     * Puts an item that lies above another one of the same height (z) right below it; an item that
+     * lies below already stays. Neither has a parent.
+     */
     void stackBelow(QGraphicsItem &item, const QGraphicsItem &above);
 
     /** Builds a copy of every record that was copied so far, moved by 30. */

@@ -9,7 +9,7 @@ enum class ItemEvent {
     Added,     ///< it is on the scene and placed: from now on it is a part of the document
     Removed,   ///< it leaves the scene or is deleted; only its address may be used
     Moved,     ///< its position is another one
-    Restacked, ///< it lies above or below other items than before
+    Restacked, ///< its height (z) is another one
     Altered    ///< something else about it is another: shape, text, look
 };
 
@@ -22,7 +22,7 @@ public:
     /** Told at once. An item that waits to be placed may be told of, too. */
     virtual void itemChanged(QGraphicsItem &item, ItemEvent event) = 0;
 
-    /** `item` was put right below `above`, which is of the same height. */
+    /** If `item` lay above `above`, which is of the same height (z), it lies right below it now. */
     virtual void itemStackedBelow(QGraphicsItem &item, const QGraphicsItem &above) = 0;
 };
 

@@ -72,6 +72,8 @@ void DocumentMirror::refresh()
 
 void DocumentMirror::itemChanged(QGraphicsItem &item, ItemEvent event)
 {
+    // Nobody tells where among the items of its new height an item lies; it hardly ever gets one.
+    m_isAllToBeRead = m_isAllToBeRead || event == ItemEvent::Restacked;
     if (m_isAllToBeRead)
         return;
     auto known = m_known.find(&item);
@@ -80,12 +82,10 @@ void DocumentMirror::itemChanged(QGraphicsItem &item, ItemEvent event)
         known = m_known.insert(&item, {{item.zValue(), ++m_topmost}, false, false});
     if (known == m_known.end())
         return;
-    if (event == ItemEvent::Removed || event == ItemEvent::Restacked)
-        takeLine(*known);
     if (event == ItemEvent::Removed) {
+        takeLine(*known);
         m_known.erase(known);
     } else {
-        known->height.z = item.zValue();
         mark(&item, *known);
     }
     countOnReadingAll();
@@ -115,20 +115,17 @@ void DocumentMirror::itemStackedBelow(QGraphicsItem &item, const QGraphicsItem &
     if (m_isAllToBeRead)
         return;
     applyMarks();
+    const qsizetype at = indexOf(&item);
     const qsizetype next = indexOf(&above);
     // Nobody has told where an item without a line lies.
-    m_isAllToBeRead =
-        isItemWaiting() || next < 0 || indexOf(&item) < 0 || item.zValue() != above.zValue();
-    if (m_isAllToBeRead)
+    m_isAllToBeRead = isItemWaiting() || next < 0 || at < 0;
+    if (m_isAllToBeRead || at < next)
         return;
     const Height upper = m_places[next].height;
-    const Place before = next > 0 ? m_places[next - 1] : Place();
-    if (before.item == &item)
-        return;
-    const double lower =
-        before.item && before.height.z == upper.z ? before.height.order : upper.order - 1;
+    const bool isLowest = next == 0 || m_places[next - 1].height.z != upper.z;
+    const double lower = isLowest ? upper.order - 1 : m_places[next - 1].height.order;
     const double between = lower + (upper.order - lower) / 2;
-    m_isAllToBeRead = !(lower < between && between < upper.order);
+    m_isAllToBeRead = between <= lower || between >= upper.order;
     Known &known = m_known[&item];
     takeLine(known);
     known.height.order = between;

@@ -1,5 +1,6 @@
 #include "Monkey.h"
 
+#include "DocumentMirror.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 #include "TonquillView.h"
@@ -65,6 +66,7 @@ Monkey::~Monkey() = default;
 void Monkey::startAfresh()
 {
     m_pointer.reset();
+    m_mirror.reset();
     m_window.reset();
     m_host = std::make_unique<TestHost>();
     m_window = std::make_unique<TonquillMainWin>();
@@ -73,6 +75,7 @@ void Monkey::startAfresh()
     m_window->show();
     m_window->activateWindow();
     m_pointer = std::make_unique<ScenePointer>(*m_window->scene);
+    m_mirror = std::make_unique<DocumentMirror>(*m_window);
     QApplication::processEvents();
 }
 
@@ -96,6 +99,7 @@ void Monkey::step()
     else if (m_random.onceIn(4))
         print();
     QApplication::processEvents();
+    m_mirror->refresh(); // ends the program if an edit was not announced
 }
 
 QPointF Monkey::anyPoint()

@@ -9,11 +9,13 @@
 
 #include <memory>
 
+class DocumentMirror;
 class TonquillMainWin;
 
 /**
  * Uses the editor without any sense: pointer, keys, palette, menus, dialogs, pages, printing, and
- * a host that sends documents, rubbish and nothing. Each step is one such act.
+ * a host that sends documents, rubbish and nothing. Each step is one such act, after which all that
+ * it changed must have been announced.
  */
 class Monkey : public QObject
 {
@@ -52,5 +54,6 @@ private:
     DialogMonkey m_dialogs;
     std::unique_ptr<TestHost> m_host;
     std::unique_ptr<TonquillMainWin> m_window;
+    std::unique_ptr<DocumentMirror> m_mirror;
     std::unique_ptr<ScenePointer> m_pointer;
 };
