@@ -1,16 +1,17 @@
 #pragma once
 
 #include <QList>
+#include <QVarLengthArray>
 
 #include <algorithm>
 #include <initializer_list>
 #include <iterator>
-#include <utility>
+#include <memory>
 
 /**
- * A list that is cheap to keep in many slightly different states. It is held in chunks, which
- * copies share: a change touches the chunk that it is in, and where two lists share their chunks
- * they are known to be equal without a look at what these hold.
+ * A list that is cheap to keep in many slightly different states. It is held in chunks, the leaves
+ * of a balanced tree, of which copies share all that is the same. A change copies no more than the
+ * way to its chunk, and what two lists share is known to be equal without a look at it.
  */
 template <typename T>
 class ChunkedList
@@ -35,14 +36,13 @@ public:
         using reference = const T &;
 
         const_iterator() = default;
-        reference operator*() const { return m_list->m_chunks[m_chunk][m_offset]; }
-        pointer operator->() const { return &**this; }
+        reference operator*() const { return *m_value; }
+        pointer operator->() const { return m_value; }
         const_iterator &operator++()
         {
-            if (++m_offset == m_list->m_chunks[m_chunk].size()) {
-                ++m_chunk;
-                m_offset = 0;
-            }
+            ++m_index;
+            if (++m_value == m_chunkEnd)
+                enterChunk();
             return *this;
         }
         const_iterator operator++(int)
@@ -51,42 +51,55 @@ public:
             ++*this;
             return before;
         }
-        bool operator==(const const_iterator &) const = default;
+        bool operator==(const const_iterator &other) const { return m_index == other.m_index; }
 
     private:
         friend class ChunkedList;
-        const_iterator(const ChunkedList *list, qsizetype chunk)
+        const_iterator(const ChunkedList *list, qsizetype index)
             : m_list(list)
-            , m_chunk(chunk)
-        {}
+            , m_index(index)
+        {
+            enterChunk();
+        }
+        void enterChunk()
+        {
+            if (m_index == m_list->size())
+                return;
+            const Place place = m_list->placeOf(m_index);
+            m_value = place.values->constData() + place.offset;
+            m_chunkEnd = place.values->constData() + place.values->size();
+        }
 
         const ChunkedList *m_list = nullptr;
-        qsizetype m_chunk = 0;
-        qsizetype m_offset = 0;
+        qsizetype m_index = 0;
+        const T *m_value = nullptr;
+        const T *m_chunkEnd = nullptr;
     };
 
     ChunkedList() = default;
     /** Not explicit: such a list is written and read as any other. */
-    ChunkedList(const QList<T> &values) { replace(0, 0, values); }
+    ChunkedList(const QList<T> &values)
+        : m_root(build(values))
+    {}
     ChunkedList(std::initializer_list<T> values)
         : ChunkedList(QList<T>(values))
     {}
 
-    qsizetype size() const { return m_size; }
-    bool isEmpty() const { return m_size == 0; }
+    qsizetype size() const { return sizeOf(m_root); }
+    bool isEmpty() const { return !m_root; }
 
     const_iterator begin() const { return const_iterator(this, 0); }
-    const_iterator end() const { return const_iterator(this, m_chunks.size()); }
+    const_iterator end() const { return const_iterator(this, size()); }
     const_iterator cbegin() const { return begin(); }
     const_iterator cend() const { return end(); }
 
     const T &operator[](qsizetype index) const
     {
         const Place place = placeOf(index);
-        return m_chunks[place.chunk][place.offset];
+        return (*place.values)[place.offset];
     }
-    const T &constFirst() const { return m_chunks.constFirst().constFirst(); }
-    const T &constLast() const { return m_chunks.constLast().constLast(); }
+    const T &constFirst() const { return (*this)[0]; }
+    const T &constLast() const { return lastOf(*m_root); }
     bool contains(const T &value) const { return std::find(begin(), end(), value) != end(); }
 
     /** The values from `at` on, `count` of them, as a plain list. */
@@ -94,29 +107,43 @@ public:
     {
         QList<T> values;
         values.reserve(count);
-        for (Place place = placeOf(at); values.size() < count; place = {place.chunk + 1, 0})
-            values += m_chunks[place.chunk].mid(place.offset, count - values.size());
+        while (values.size() < count) {
+            const Place place = placeOf(at + values.size());
+            values += place.values->mid(place.offset, count - values.size());
+        }
         return values;
     }
-    QList<T> toList() const { return sliced(0, m_size); }
+    QList<T> toList() const { return sliced(0, size()); }
 
     void append(const T &value)
     {
-        if (m_chunks.isEmpty() || m_chunks.constLast().size() >= largestChunk)
-            m_chunks.append(Chunk());
-        m_chunks.last().append(value);
-        ++m_size;
+        const Node *last = m_root.get();
+        while (last && !last->isLeaf())
+            last = last->right.get();
+        if (!last || last->size == largestChunk) {
+            m_root = join(m_root, leaf({value}));
+            return;
+        }
+        Tree *tree = &m_root;
+        for (; ++own(*tree).size, !(*tree)->isLeaf(); tree = &(*tree)->right) {
+        }
+        (*tree)->values.append(value);
     }
 
     void set(qsizetype index, const T &value)
     {
-        const Place place = placeOf(index);
-        m_chunks[place.chunk][place.offset] = value;
+        Tree *tree = &m_root;
+        while (!own(*tree).isLeaf()) {
+            const qsizetype left = (*tree)->left->size;
+            tree = index < left ? &(*tree)->left : &(*tree)->right;
+            index -= index < left ? 0 : left;
+        }
+        (*tree)->values[index] = value;
     }
 
     void insert(qsizetype index, const T &value)
     {
-        if (index == m_size)
+        if (index == size())
             append(value);
         else
             replace(index, 0, {value});
@@ -127,28 +154,14 @@ public:
     /** Puts `values` in the place of the `count` values from `at` on. */
     void replace(qsizetype at, qsizetype count, const QList<T> &values)
     {
-        const Place from = placeOf(at);
-        Place to = placeOf(at + count);
-        Chunk middle = chunk(from.chunk).first(from.offset) + values;
-        middle += chunk(to.chunk).sliced(to.offset);
-        // Chunks that have become small join the next one.
-        if (middle.size() < smallestChunk && to.chunk + 1 < m_chunks.size())
-            middle += m_chunks[++to.chunk];
-        const QList<Chunk> chunks = inChunks(middle);
-        const qsizetype end = qMin(to.chunk + 1, m_chunks.size());
-        const qsizetype same = qMin(end - from.chunk, chunks.size());
-        std::copy_n(chunks.cbegin(), same, m_chunks.begin() + from.chunk);
-        m_chunks.remove(from.chunk + same, end - from.chunk - same);
-        for (qsizetype i = same; i < chunks.size(); ++i)
-            m_chunks.insert(from.chunk + i, chunks[i]);
-        m_size += values.size() - count;
+        m_root = replaced(m_root, at, count, values);
     }
 
     /** Becomes equal to `other`, but goes on sharing with its own copies what is the same. */
     void become(const ChunkedList &other)
     {
         const QList<Change> way = changes(*this, other);
-        if (way.size() > m_chunks.size()) {
+        if (way.size() * largestChunk > size()) {
             *this = other; // hardly a chunk would stay the same
             return;
         }
@@ -160,21 +173,23 @@ public:
     template <typename Predicate>
     qsizetype partitionPoint(const Predicate &isBefore) const
     {
-        const auto chunk = std::partition_point(
-            m_chunks.cbegin(), m_chunks.cend(),
-            [&isBefore](const Chunk &each) { return isBefore(each.constLast()); });
+        if (!m_root)
+            return 0;
         qsizetype index = 0;
-        for (auto each = m_chunks.cbegin(); each != chunk; ++each)
-            index += each->size();
-        if (chunk == m_chunks.cend())
-            return index;
+        const Node *node = m_root.get();
+        while (!node->isLeaf()) {
+            const bool isInRight = isBefore(lastOf(*node->left));
+            index += isInRight ? node->left->size : 0;
+            node = (isInRight ? node->right : node->left).get();
+        }
+        const QList<T> &values = node->values;
         return index +
-               (std::partition_point(chunk->cbegin(), chunk->cend(), isBefore) - chunk->cbegin());
+               (std::partition_point(values.cbegin(), values.cend(), isBefore) - values.cbegin());
     }
 
     friend bool operator==(const ChunkedList &a, const ChunkedList &b)
     {
-        return a.m_size == b.m_size && commonBegin(a, b) == a.m_size;
+        return a.size() == b.size() && common<Direction::Forward>(a, b, a.size()) == a.size();
     }
 
     /**
@@ -184,127 +199,231 @@ public:
      */
     static QList<Change> changes(const ChunkedList &older, const ChunkedList &newer)
     {
-        if (older.m_size == newer.m_size)
+        if (older.size() == newer.size())
             return changedRuns(older, newer);
-        const qsizetype begin = commonBegin(older, newer);
-        const qsizetype end = commonEnd(older, newer, qMin(older.m_size, newer.m_size) - begin);
-        return {{begin, older.m_size - begin - end, newer.m_size - begin - end}};
+        const qsizetype most = qMin(older.size(), newer.size());
+        const qsizetype begin = common<Direction::Forward>(older, newer, most);
+        const qsizetype end = common<Direction::Backward>(older, newer, most - begin);
+        return {{begin, older.size() - begin - end, newer.size() - begin - end}};
     }
 
 private:
-    using Chunk = QList<T>;
+    struct Node;
+    using Tree = std::shared_ptr<Node>;
 
-    static constexpr qsizetype largestChunk = 256;
-    static constexpr qsizetype smallestChunk = 64;
+    static constexpr qsizetype largestChunk = 32;
 
+    /** A chunk of values, or two trees whose heights differ by one at most. */
+    struct Node
+    {
+        Tree left;
+        Tree right;
+        QList<T> values;
+        qsizetype size = 0;
+        int height = 0;
+        bool isLeaf() const { return height == 0; }
+    };
+
+    /** A value within its chunk. */
     struct Place
     {
-        qsizetype chunk = 0;
+        const QList<T> *values = nullptr;
         qsizetype offset = 0;
     };
 
-    /** Behind the last value it is the place behind the last chunk's. */
+    static qsizetype sizeOf(const Tree &tree) { return tree ? tree->size : 0; }
+
+    static Tree leaf(const QList<T> &values)
+    {
+        return std::make_shared<Node>(Node{nullptr, nullptr, values, values.size(), 0});
+    }
+
+    /** A tree of two whose heights differ by one at most; small chunks become one. */
+    static Tree inner(const Tree &left, const Tree &right)
+    {
+        const qsizetype size = left->size + right->size;
+        if (left->isLeaf() && right->isLeaf() && size <= largestChunk)
+            return leaf(left->values + right->values);
+        return std::make_shared<Node>(
+            Node{left, right, {}, size, qMax(left->height, right->height) + 1});
+    }
+
+    /** A tree of two whose heights differ by two at most. */
+    static Tree balanced(const Tree &left, const Tree &right)
+    {
+        if (left->height > right->height + 1) {
+            const Tree &middle = left->right;
+            return left->left->height >= middle->height
+                       ? inner(left->left, inner(middle, right))
+                       : inner(inner(left->left, middle->left), inner(middle->right, right));
+        }
+        if (right->height > left->height + 1) {
+            const Tree &middle = right->left;
+            return right->right->height >= middle->height
+                       ? inner(inner(left, middle), right->right)
+                       : inner(inner(left, middle->left), inner(middle->right, right->right));
+        }
+        return inner(left, right);
+    }
+
+    /** A tree of any two. */
+    static Tree join(const Tree &left, const Tree &right)
+    {
+        if (!left || !right)
+            return left ? left : right;
+        if (left->height > right->height + 1)
+            return balanced(left->left, join(left->right, right));
+        if (right->height > left->height + 1)
+            return balanced(join(left, right->left), right->right);
+        return inner(left, right);
+    }
+
+    static Tree build(const QList<T> &values)
+    {
+        if (values.isEmpty())
+            return nullptr;
+        const qsizetype chunks = (values.size() + largestChunk - 1) / largestChunk;
+        if (chunks == 1)
+            return leaf(values);
+        const qsizetype half = values.size() * (chunks / 2) / chunks;
+        return join(build(values.first(half)), build(values.sliced(half)));
+    }
+
+    static Tree replaced(const Tree &tree, qsizetype at, qsizetype count, const QList<T> &values)
+    {
+        if (count == sizeOf(tree))
+            return build(values);
+        if (count == 0 && values.isEmpty())
+            return tree;
+        if (tree->isLeaf())
+            return build(tree->values.first(at) + values + tree->values.sliced(at + count));
+        const qsizetype left = tree->left->size;
+        if (at + count <= left)
+            return join(replaced(tree->left, at, count, values), tree->right);
+        if (at >= left)
+            return join(tree->left, replaced(tree->right, at - left, count, values));
+        return join(replaced(tree->left, at, left - at, values),
+                    replaced(tree->right, 0, at + count - left, {}));
+    }
+
+    /** The tree's node, to be changed: a copy if others share it. */
+    static Node &own(Tree &tree)
+    {
+        if (tree.use_count() > 1)
+            tree = std::make_shared<Node>(*tree);
+        return *tree;
+    }
+
+    static const T &lastOf(const Node &tree)
+    {
+        const Node *node = &tree;
+        while (!node->isLeaf())
+            node = node->right.get();
+        return node->values.constLast();
+    }
+
     Place placeOf(qsizetype index) const
     {
-        qsizetype at = 0;
-        while (at + 1 < m_chunks.size() && index >= m_chunks[at].size())
-            index -= m_chunks[at++].size();
-        return {at, index};
+        const Node *node = m_root.get();
+        while (!node->isLeaf()) {
+            const qsizetype left = node->left->size;
+            node = (index < left ? node->left : node->right).get();
+            index -= index < left ? 0 : left;
+        }
+        return {&node->values, index};
     }
 
-    /** The chunk, or an empty one for the place in an empty list. */
-    Chunk chunk(qsizetype at) const { return m_chunks.value(at); }
+    enum class Direction { Forward, Backward };
 
-    static QList<Chunk> inChunks(const Chunk &values)
+    /** Goes through two lists side by side, by trees and chunks as large as they can be compared.
+     */
+    template <Direction direction>
+    class Walk
     {
-        QList<Chunk> chunks;
-        const qsizetype count = (values.size() + largestChunk - 1) / largestChunk;
-        for (qsizetype i = 0; i < count; ++i) {
-            const qsizetype begin = values.size() * i / count;
-            chunks.append(values.sliced(begin, values.size() * (i + 1) / count - begin));
+    public:
+        Walk(const ChunkedList &a, const ChunkedList &b)
+        {
+            if (a.m_root)
+                m_a.nodes.append(a.m_root.get());
+            if (b.m_root)
+                m_b.nodes.append(b.m_root.get());
         }
-        return chunks;
-    }
 
-    /** Two places that go through two lists side by side, by pieces of chunks. */
-    struct Pair
-    {
-        const ChunkedList &a;
-        const ChunkedList &b;
-        Place inA = {};
-        Place inB = {};
-
-        bool isAtEnd() const
+        /** Comes to the next values; false at the end of either list. */
+        bool next()
         {
-            return inA.chunk == a.m_chunks.size() || inB.chunk == b.m_chunks.size();
-        }
-        const Chunk &chunkOfA() const { return a.m_chunks[inA.chunk]; }
-        const Chunk &chunkOfB() const { return b.m_chunks[inB.chunk]; }
-        const T *valuesOfA() const { return chunkOfA().constData() + inA.offset; }
-        const T *valuesOfB() const { return chunkOfB().constData() + inB.offset; }
-        /** So many values lie before the end of either chunk. */
-        qsizetype count() const
-        {
-            return qMin(chunkOfA().size() - inA.offset, chunkOfB().size() - inB.offset);
-        }
-        /** True if those are the same without a look at them. */
-        bool isShared() const { return valuesOfA() == valuesOfB(); }
-        void advance(qsizetype count)
-        {
-            for (auto [place, chunk] :
-                 {std::pair(&inA, &chunkOfA()), std::pair(&inB, &chunkOfB())}) {
-                place->offset += count;
-                if (place->offset == chunk->size())
-                    *place = {place->chunk + 1, 0};
+            m_a.advance(m_count);
+            m_b.advance(m_count);
+            while (!m_a.nodes.isEmpty() && !m_b.nodes.isEmpty()) {
+                const Node *a = m_a.nodes.last();
+                const Node *b = m_b.nodes.last();
+                m_isShared = a == b && m_a.done == m_b.done;
+                m_count = qMin(a->size - m_a.done, b->size - m_b.done);
+                if (m_isShared || (a->isLeaf() && b->isLeaf()))
+                    return true;
+                if (b->isLeaf() || (!a->isLeaf() && a->size >= b->size))
+                    m_a.descend();
+                else
+                    m_b.descend();
             }
+            return false;
         }
+
+        /** True if the values are the same without a look at them. */
+        bool isShared() const { return m_isShared; }
+        /** How many there are in both. */
+        qsizetype count() const { return m_count; }
+        /** The values of index `i`, counted from where they begin in this direction. */
+        bool isEqual(qsizetype i) const { return m_a.value(i) == m_b.value(i); }
+
+    private:
+        struct Side
+        {
+            QVarLengthArray<const Node *, 64> nodes; ///< all that is left, the next one last
+            qsizetype done = 0;                      ///< so many values of the next one
+
+            void descend()
+            {
+                const Node *node = nodes.last();
+                nodes.removeLast();
+                constexpr bool isForward = direction == Direction::Forward;
+                nodes.append((isForward ? node->right : node->left).get());
+                nodes.append((isForward ? node->left : node->right).get());
+            }
+            void advance(qsizetype count)
+            {
+                done += count;
+                if (!nodes.isEmpty() && done == nodes.last()->size) {
+                    nodes.removeLast();
+                    done = 0;
+                }
+            }
+            const T &value(qsizetype i) const
+            {
+                const QList<T> &values = nodes.last()->values;
+                return direction == Direction::Forward ? values[done + i]
+                                                       : values[values.size() - 1 - done - i];
+            }
+        };
+
+        Side m_a;
+        Side m_b;
+        qsizetype m_count = 0;
+        bool m_isShared = false;
     };
 
-    static qsizetype commonBegin(const ChunkedList &a, const ChunkedList &b)
+    /** How many values both lists begin with, or end with, but no more than `most`. */
+    template <Direction direction>
+    static qsizetype common(const ChunkedList &a, const ChunkedList &b, qsizetype most)
     {
-        if (a.m_chunks.isSharedWith(b.m_chunks))
-            return a.m_size;
-        qsizetype common = 0;
-        for (Pair pair{a, b}; !pair.isAtEnd();) {
-            const qsizetype count = pair.count();
-            if (!pair.isShared()) {
-                const T *values = pair.valuesOfA();
-                const qsizetype same =
-                    std::mismatch(values, values + count, pair.valuesOfB()).first - values;
-                if (same < count)
-                    return common + same;
+        qsizetype count = 0;
+        for (Walk<direction> walk(a, b); count < most && walk.next(); count += walk.count()) {
+            for (qsizetype i = 0; !walk.isShared() && i < walk.count(); ++i) {
+                if (!walk.isEqual(i))
+                    return qMin(count + i, most);
             }
-            common += count;
-            pair.advance(count);
         }
-        return common;
-    }
-
-    /** How many values both lists end with, but no more than `most`. */
-    static qsizetype commonEnd(const ChunkedList &a, const ChunkedList &b, qsizetype most)
-    {
-        qsizetype common = 0;
-        // The place is right behind the values that are looked at next.
-        const auto behind = [](const ChunkedList &list, qsizetype chunk) {
-            return Place{chunk, chunk >= 0 ? list.m_chunks[chunk].size() : 0};
-        };
-        Place inA = behind(a, a.m_chunks.size() - 1);
-        Place inB = behind(b, b.m_chunks.size() - 1);
-        while (common < most) {
-            const T *endOfA = a.m_chunks[inA.chunk].constData() + inA.offset;
-            const T *endOfB = b.m_chunks[inB.chunk].constData() + inB.offset;
-            const qsizetype count = qMin(most - common, qMin(inA.offset, inB.offset));
-            for (qsizetype i = 1; endOfA != endOfB && i <= count; ++i) {
-                if (!(endOfA[-i] == endOfB[-i]))
-                    return common + i - 1;
-            }
-            common += count;
-            if ((inA.offset -= count) == 0)
-                inA = behind(a, inA.chunk - 1);
-            if ((inB.offset -= count) == 0)
-                inB = behind(b, inB.chunk - 1);
-        }
-        return common;
+        return qMin(count, most);
     }
 
     /** For lists of equal length. */
@@ -312,24 +431,18 @@ private:
     {
         QList<Change> runs;
         qsizetype at = 0;
-        if (a.m_chunks.isSharedWith(b.m_chunks))
-            return runs;
-        for (Pair pair{a, b}; !pair.isAtEnd();) {
-            const qsizetype count = pair.count();
-            for (qsizetype i = 0; !pair.isShared() && i < count; ++i) {
-                if (pair.valuesOfA()[i] == pair.valuesOfB()[i])
+        for (Walk<Direction::Forward> walk(a, b); walk.next(); at += walk.count()) {
+            for (qsizetype i = 0; !walk.isShared() && i < walk.count(); ++i) {
+                if (walk.isEqual(i))
                     continue;
                 if (runs.isEmpty() || runs.constLast().at + runs.constLast().newerCount < at + i)
                     runs.append({at + i, 0, 0});
                 ++runs.last().olderCount;
                 ++runs.last().newerCount;
             }
-            at += count;
-            pair.advance(count);
         }
         return runs;
     }
 
-    QList<Chunk> m_chunks; ///< none of them empty
-    qsizetype m_size = 0;
+    Tree m_root; ///< null if the list is empty
 };
