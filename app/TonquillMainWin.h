@@ -71,6 +71,12 @@ public:
     /** Connects to the host, if one is listening; otherwise the editor runs alone. */
     void connectToHost();
 
+    /**
+     * The same for a host in this process, which sees the scene itself: of the document it is sent
+     * the page-count line, to know that an edit is finished. The items would cost their number.
+     */
+    void connectToOwnHost();
+
     /** The view of the scene. */
     TonquillView *view() const;
 

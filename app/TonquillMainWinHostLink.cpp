@@ -8,6 +8,12 @@ void TonquillMainWin::connectToHost()
     socket.connectToServer(HostMessages::serverName, QIODevice::ReadWrite);
 }
 
+void TonquillMainWin::connectToOwnHost()
+{
+    m_hostLink->leaveOutItems();
+    connectToHost();
+}
+
 void TonquillMainWin::onTWConnect()
 {
     if (!m_hostLink->keepsConnection())

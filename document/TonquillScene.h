@@ -90,6 +90,9 @@ public:
     /** The whole document: the page-count line and a record for each item. */
     QString notifyTW();
 
+    /** The first line of it alone. */
+    QString pageCountLine() const;
+
     /**
      * Builds one item from a record, or nothing if the record is none. The item stands `offset`
      * right of and below its recorded position (a simple text twice that), or at the mouse cursor

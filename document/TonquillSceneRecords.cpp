@@ -12,9 +12,14 @@ namespace
 constexpr qsizetype typicalRecordSize = 32;
 } // namespace
 
+QString TonquillScene::pageCountLine() const
+{
+    return Records::pageCountLine(m_context->pages());
+}
+
 QString TonquillScene::notifyTW()
 {
-    QString document = Records::pageCountLine(m_context->pages());
+    QString document = pageCountLine();
     const QList<QGraphicsItem *> all = itemsFromTop();
     document.reserve(document.size() + all.size() * typicalRecordSize / 2);
     for (QGraphicsItem *item : all) {

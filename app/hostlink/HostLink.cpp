@@ -223,7 +223,9 @@ void HostLink::sendNext()
         return;
     }
     m_toldHost = m_toldHost || next.isDocument();
-    const QString text = next.isDocument() ? m_scene.notifyTW() : next.command;
+    const QString text = !next.isDocument() ? next.command
+                         : m_leavesOutItems ? m_scene.pageCountLine()
+                                            : m_scene.notifyTW();
     qCDebug(lcRecords).noquote() << "notifyTW " << HostMessages::toHost + text;
     // Latin-1 keeps an accented letter; what it lacks becomes a question mark.
     m_socket.write(HostMessages::toHost.toLatin1() + text.toLatin1());

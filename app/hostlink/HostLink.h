@@ -42,6 +42,9 @@ public:
     /** Sends the whole document. */
     void sendDocument();
 
+    /** From now on a document is sent without its items: the host sees the scene itself. */
+    void leaveOutItems() { m_leavesOutItems = true; }
+
     /** Sends one of the commands of HostMessages. */
     void sendCommand(const QString &command);
 
@@ -81,4 +84,5 @@ private:
     bool m_toldHost = false;     ///< a document was sent since the host's last one was shown
     bool m_owesDocument = false; ///< one is to be sent as soon as none is incomplete
     bool m_paused = false;
+    bool m_leavesOutItems = false;
 };

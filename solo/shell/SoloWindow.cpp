@@ -43,7 +43,7 @@ QString SoloWindow::startHost()
 {
     const QString error = m_host.listen();
     if (error.isEmpty())
-        m_window.connectToHost();
+        m_window.connectToOwnHost();
     return error;
 }
 

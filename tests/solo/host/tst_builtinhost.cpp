@@ -2,6 +2,7 @@
 #include "HostMessages.h"
 #include "SoloTestMain.h"
 #include "StrangersHost.h"
+#include "TonquillBitmap.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 
@@ -18,6 +19,7 @@ private Q_SLOTS:
     void takesMessagesApart_data();
     void takesMessagesApart();
     void hearsOfEditsAndCommands();
+    void isSentNoItems();
     void noticesARealHost();
     void replacesAStaleSocket();
     void leavesAnOrdinaryFileAlone();
@@ -93,6 +95,30 @@ void BuiltInHostTest::hearsOfEditsAndCommands()
     QTRY_COMPARE(edited.size(), 2);
     QCOMPARE(redo.size(), 1);
     QCOMPARE(raise.size(), 1);
+}
+
+/** It sees the scene itself; another host would be sent the glyph as well. */
+void BuiltInHostTest::isSentNoItems()
+{
+    QLocalServer host;
+    QVERIFY(host.listen(HostMessages::serverName));
+    const auto sent = [&host](void (TonquillMainWin::*connectToIt)()) {
+        TonquillMainWin window(TonquillMainWin::HostConnection::Later);
+        window.InsertBitmapSymbol(19, false, true)->setPos(1, 2);
+        (window.*connectToIt)();
+        if (!host.waitForNewConnection(5000))
+            return QByteArray("no connection");
+        QLocalSocket *socket = host.nextPendingConnection();
+        QByteArray bytes;
+        while (!bytes.endsWith('\n') &&
+               QTest::qWaitFor([&] { return socket->bytesAvailable() > 0; }))
+            bytes += socket->readAll();
+        return bytes;
+    };
+    QCOMPARE(sent(&TonquillMainWin::connectToOwnHost),
+             QByteArray("tonquill2tw tonquill_pagecount 1\n"));
+    QCOMPARE(sent(&TonquillMainWin::connectToHost),
+             QByteArray("tonquill2tw tonquill_pagecount 1\ntonquill_bitmap 19 1 2 0\n"));
 }
 
 void BuiltInHostTest::noticesARealHost()
