@@ -201,6 +201,7 @@ void DocumentMirror::select(const ItemSelection &selection) const
         item->setSelected(true);
 }
 
+#ifndef NDEBUG
 /**
  * An edit that nobody announced would not be undone, nor kept for recovery: where the program is
  * built to be tested, it ends here.
@@ -222,3 +223,4 @@ void DocumentMirror::compareWithScene() const
                int(items.size()), shown.constData(), told.constData());
     }
 }
+#endif

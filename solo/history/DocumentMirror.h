@@ -79,7 +79,7 @@ private:
     void applyMarks();
     void bringUpToDate(QGraphicsItem *item, Known &known);
     qsizetype indexOf(const Height &height) const;
-    void compareWithScene() const;
+    void compareWithScene() const; ///< only in builds with assertions
 
     TonquillMainWin &m_window;
     DocumentSnapshot m_document;
