@@ -46,9 +46,6 @@ struct DocumentSnapshot
      */
     void restore(TonquillMainWin &window, const ItemSelection &selection = {}) const;
 
-    /** The line of an item; empty if the item is no part of the document, or not yet. */
-    static QByteArray lineOf(const QGraphicsItem *item);
-
     /** The items on the window's pages, from the lowest to the topmost; none that is another's. */
     static QList<QGraphicsItem *> itemsOf(const TonquillMainWin &window);
 

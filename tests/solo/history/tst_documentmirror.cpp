@@ -1,6 +1,5 @@
 #include "DocumentMirror.h"
 #include "RandomDocument.h"
-#include "SceneItems.h"
 #include "ScenePointer.h"
 #include "SoloTestMain.h"
 #include "TonquillMainWin.h"
