@@ -66,11 +66,8 @@ RecordedItem readText(QStringView fields, bool adding, const SymbolSource &)
 
 void joinText(QGraphicsItem &item, QGraphicsScene &scene)
 {
-    auto &text = static_cast<TonquillText &>(item);
-    // Extensions may have connected the texts that they make.
-    if (!text.hasMenu())
-        QObject::connect(&text, SIGNAL(showTextItemMenu(TonquillText *)), &scene,
-                         SLOT(onTextItemContextMenu(TonquillText *)));
+    QObject::connect(static_cast<TonquillText *>(&item), SIGNAL(showTextItemMenu(TonquillText *)),
+                     &scene, SLOT(onTextItemContextMenu(TonquillText *)));
     scene.update();
 }
 

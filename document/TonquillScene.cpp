@@ -2,7 +2,6 @@
 
 #include "DocumentItem.h"
 #include "GlyphState.h"
-#include "ItemKinds.h"
 #include "Logging.h"
 #include "PageGeometry.h"
 #include "TonquillBitmap.h"
@@ -73,9 +72,6 @@ void TonquillScene::addNewItem(QGraphicsItem *item)
     addItem(item);
     ++m_addedItems;
     fitIndexToItems();
-    const ItemKind *kind = ItemKinds::catalogue().ofItem(*item);
-    if (kind && kind->joinScene)
-        kind->joinScene(*item, *this);
     // Of a document only the last item is remembered: watching each in turn would cost as much
     // memory and time as two of its coordinates.
     if (m_isBuildingDocument)

@@ -111,6 +111,9 @@ public:
     /** Builds an item of this state, which the scene then owns. */
     QGraphicsItem *buildItem(const ItemState &state);
 
+    /** Adds an item that the program itself has made, and sees to whatever it may ask for. */
+    void addOwnItem(QGraphicsItem *item);
+
     /** Adds the item, which the scene then owns, and remembers it as the last added one. */
     void addNewItem(QGraphicsItem *item);
 

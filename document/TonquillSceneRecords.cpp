@@ -82,13 +82,21 @@ void TonquillScene::build(const ItemKind &kind, QStringView record, bool adding,
         isNewItemIsAdding();
     const double away = double(kind.offsetTimes) * offset;
     item->setPos(offset == atCursor ? cursorPosition() : position + QPointF(away, away));
+    addOwnItem(item);
+}
+
+void TonquillScene::addOwnItem(QGraphicsItem *item)
+{
     addNewItem(item);
+    const ItemKind *kind = ItemKinds::catalogue().ofItem(*item);
+    if (kind && kind->joinScene)
+        kind->joinScene(*item, *this);
 }
 
 QGraphicsItem *TonquillScene::buildItem(const ItemState &state)
 {
     QGraphicsItem *item = state.build(*m_context);
-    addNewItem(item);
+    addOwnItem(item);
     return item;
 }
 

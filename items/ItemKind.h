@@ -37,7 +37,7 @@ struct ItemKind
     /** A new item that waits to be placed; null for kinds that cannot be made without a choice. */
     QGraphicsItem *(*makeNew)() = nullptr;
 
-    /** Called with an item that has come to a scene of the document. */
+    /** Called with an item that the program has made and added to a scene of the document. */
     void (*joinScene)(QGraphicsItem &item, QGraphicsScene &scene) = nullptr;
 
     /** A host's documents may hold it. Others are built where the user copies, undoes and opens. */

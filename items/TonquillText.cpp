@@ -5,7 +5,6 @@
 #include "Records.h"
 
 #include <QGraphicsSceneMouseEvent>
-#include <QMetaMethod>
 #include <QPainter>
 
 TonquillText::TonquillText(bool adding, QGraphicsItem *parent)
@@ -27,12 +26,6 @@ void TonquillText::moveAnchorToCorner()
 {
     frame().parentBoundsAboutToChange();
     frame().setAnchors({boundingRect().bottomLeft()});
-}
-
-bool TonquillText::hasMenu() const
-{
-    static const QMetaMethod asked = QMetaMethod::fromSignal(&TonquillText::showTextItemMenu);
-    return isSignalConnected(asked);
 }
 
 void TonquillText::setDefaultTextColor(const QColor &color)

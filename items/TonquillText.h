@@ -32,10 +32,6 @@ public:
     void setDefaultTextColor(const QColor &color);
 
     int type() const override { return Type; }
-
-    /** True if anybody is told of a right press on it. */
-    bool hasMenu() const;
-
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
 public Q_SLOTS:

@@ -22,7 +22,7 @@ void InsertCommands::text()
         return;
     auto *item = new TonquillText(true);
     dialog.applyTo(*item);
-    m_scene.addNewItem(item);
+    m_scene.addOwnItem(item);
     // A new text turns the other way than an edited one. That is intentional.
     item->setRotation(-dialog.angle());
     item->updateFrame();
@@ -36,7 +36,7 @@ void InsertCommands::tempo(const QString &term)
     item->setFont(QFont(QStringLiteral("Arial"), 12));
     item->setPlainText(term);
     item->setDefaultTextColor(Qt::black);
-    m_scene.addNewItem(item);
+    m_scene.addOwnItem(item);
     item->updateFrame();
 }
 
@@ -87,5 +87,5 @@ void InsertCommands::addInsteadOfWaiting(const QString &keyword)
 
 void InsertCommands::add(const QString &keyword)
 {
-    m_scene.addNewItem(ItemKinds::catalogue().ofRecord(keyword)->makeNew());
+    m_scene.addOwnItem(ItemKinds::catalogue().ofRecord(keyword)->makeNew());
 }
