@@ -1,7 +1,10 @@
+#include "InsertCommands.h"
 #include "ItemProbe.h"
+#include "ModalAnswer.h"
 #include "Records.h"
 #include "ScenePointer.h"
 #include "TestMain.h"
+#include "TextState.h"
 #include "TonquillMainWin.h"
 #include "TonquillScene.h"
 #include "TonquillText.h"
@@ -21,6 +24,8 @@ private Q_SLOTS:
     void frameGetsOneMoreAnchorEachTime();
     void rightPressAsksForTheMenu_data();
     void rightPressAsksForTheMenu();
+    void textsOfTheProgramHaveOneMenu_data();
+    void textsOfTheProgramHaveOneMenu();
     void grabsTheMouseWhileItIsMoved();
     void isNeverEditedInPlace();
     void recordHasNoStyle();
@@ -109,6 +114,30 @@ void TextTest::rightPressAsksForTheMenu()
     pointer.press(QPointF(20, 10), Qt::LeftButton);
     QCOMPARE(asked.count(), 1);
     QCOMPARE(text->itemStatus(), adding ? 1 : 0);
+}
+
+void TextTest::textsOfTheProgramHaveOneMenu_data()
+{
+    QTest::addColumn<QString>("maker");
+    for (const char *maker : {"record", "state", "command"})
+        QTest::newRow(maker) << maker;
+}
+
+void TextTest::textsOfTheProgramHaveOneMenu()
+{
+    QFETCH(QString, maker);
+    TonquillScene &scene = *m_window.scene;
+    scene.clearScene();
+    if (maker == "record")
+        scene.constructItem("tonquill_text 0 0 9 9 dolce Arial 12 ff000000 0", false, 0);
+    else if (maker == "state")
+        scene.buildItem(TextState{{0, 0}, "dolce", {"Arial", 12}, Qt::black, 0});
+    else
+        InsertCommands(m_window, scene).tempo("dolce");
+    ScenePointer pointer(scene);
+    const int opened =
+        ModalAnswer::menusDuring([&pointer] { pointer.press(QPointF(20, 10), Qt::RightButton); });
+    QCOMPARE(opened, 1);
 }
 
 void TextTest::grabsTheMouseWhileItIsMoved()
