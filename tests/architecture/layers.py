@@ -24,7 +24,7 @@ class Table:
     """The table of layers; a folder may use those that its row names and what these may use."""
 
     def __init__(self, text):
-        rows = text.partition("| folder | target | may use |\n")[2].partition("\n\n")[0]
+        rows = text.partition("| folder | target | may use | what is in it |\n")[2].partition("\n\n")[0]
         cells = [row.split("|")[1:4] for row in rows.splitlines()[1:]]
         quoted = [[re.findall("`([^`]+)`", cell) for cell in row] for row in cells]
         self.layers = [Layer(folder, target, tuple(uses)) for [folder], [target], uses in quoted]

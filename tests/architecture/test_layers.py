@@ -12,12 +12,12 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 
 TABLE = """Some text.
 
-| folder | target | may use |
-|---|---|---|
-| `low` | `t-low` | |
-| `mid` | `t-mid` | `low` |
-| `top/room` | `t-top` | `mid` |
-| `top` | `t-top` | `top/room` |
+| folder | target | may use | what is in it |
+|---|---|---|---|
+| `low` | `t-low` | | the `basics` |
+| `mid` | `t-mid` | `low` | |
+| `top/room` | `t-top` | `mid` | |
+| `top` | `t-top` | `top/room` | |
 
 | folder | meaning |
 |---|---|
