@@ -33,8 +33,8 @@ Die Datei ist jetzt beschädigt. Ihr früherer Inhalt steht in „%2“.</transl
 <context>
     <name>BuiltInHost</name>
     <message>
-        <source>%1 is in the way.</source>
-        <translation>%1 ist im Weg.</translation>
+        <source>%1 exists and cannot be replaced.</source>
+        <translation>%1 existiert bereits und kann nicht ersetzt werden.</translation>
     </message>
 </context>
 <context>
@@ -88,7 +88,11 @@ Die Datei ist jetzt beschädigt. Ihr früherer Inhalt steht in „%2“.</transl
     </message>
 </context>
 <context>
-    <name>DocumentReader</name>
+    <name>DocumentFileReader</name>
+    <message>
+        <source>The file is larger than any document.</source>
+        <translation>Die Datei ist größer als jedes Dokument.</translation>
+    </message>
     <message>
         <source>Some characters are not UTF-8.</source>
         <translation>Einige Zeichen sind nicht UTF-8.</translation>
@@ -110,6 +114,10 @@ Die Datei ist jetzt beschädigt. Ihr früherer Inhalt steht in „%2“.</transl
         <translation>Hinter dem Ende des Dokuments steht noch etwas.</translation>
     </message>
     <message>
+        <source>The field “%1” is not known.</source>
+        <translation>Das Feld „%1“ ist nicht bekannt.</translation>
+    </message>
+    <message>
         <source>The end of this text block is missing.</source>
         <translation>Das Ende dieses Textblocks fehlt.</translation>
     </message>
@@ -124,14 +132,6 @@ Die Datei ist jetzt beschädigt. Ihr früherer Inhalt steht in „%2“.</transl
     <message>
         <source>This record cannot be read.</source>
         <translation>Dieser Eintrag ist nicht lesbar.</translation>
-    </message>
-    <message>
-        <source>The file is larger than any document.</source>
-        <translation>Die Datei ist größer als jedes Dokument.</translation>
-    </message>
-    <message>
-        <source>The field “%1” is not known.</source>
-        <translation>Das Feld „%1“ ist nicht bekannt.</translation>
     </message>
 </context>
 <context>
@@ -148,36 +148,28 @@ Die Datei ist jetzt beschädigt. Ihr früherer Inhalt steht in „%2“.</transl
         <translation>%1: Der Name muss auf .pdf, .png oder .svg enden</translation>
     </message>
     <message>
-        <source>there is no page %1, only 1 to %2</source>
-        <translation>es gibt keine Seite %1, nur 1 bis %2</translation>
-    </message>
-    <message>
         <source>the resolution must be between %1 and %2</source>
         <translation>die Auflösung muss zwischen %1 und %2 liegen</translation>
-    </message>
-    <message>
-        <source>The temporary folder %1 does not take the pages. Is the disk full?</source>
-        <translation>Der Ordner für Zwischendateien, %1, nimmt die Seiten nicht auf. Ist der Datenträger voll?</translation>
-    </message>
-    <message>
-        <source>%1: this is the document itself</source>
-        <translation>%1: das ist das Dokument selbst</translation>
     </message>
     <message>
         <source>The picture would be too large. A lower resolution may help.</source>
         <translation>Das Bild würde zu groß. Eine geringere Auflösung hilft vielleicht.</translation>
     </message>
+    <message>
+        <source>there is no page %1; the document has pages 1 to %2</source>
+        <translation>es gibt keine Seite %1; das Dokument hat die Seiten 1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1: the document itself cannot be overwritten</source>
+        <translation>%1: Das Dokument selbst kann nicht überschrieben werden</translation>
+    </message>
+    <message>
+        <source>The pages cannot be written to the temporary folder %1. Is the disk full?</source>
+        <translation>Die Seiten können nicht in den Ordner für Zwischendateien, %1, geschrieben werden. Ist der Datenträger voll?</translation>
+    </message>
 </context>
 <context>
     <name>FileCommands</name>
-    <message>
-        <source>Save the changes to “%1”?</source>
-        <translation>Die Änderungen an „%1“ speichern?</translation>
-    </message>
-    <message>
-        <source>Without saving they are lost.</source>
-        <translation>Ohne Speichern gehen sie verloren.</translation>
-    </message>
     <message>
         <source>Open</source>
         <translation>Öffnen</translation>
@@ -191,28 +183,8 @@ Die Datei ist jetzt beschädigt. Ihr früherer Inhalt steht in „%2“.</transl
         <translation>„%1“ kann nicht geöffnet werden.</translation>
     </message>
     <message>
-        <source>“%1” can only be read in part.</source>
-        <translation>„%1“ ist nur zum Teil lesbar.</translation>
-    </message>
-    <message>
-        <source>%1
-
-Show the rest, %2 items? The file stays as it is until you save.</source>
-        <translation>%1
-
-Den Rest zeigen, %2 Elemente? Die Datei bleibt, wie sie ist, bis Sie speichern.</translation>
-    </message>
-    <message>
-        <source>Show What Can Be Read</source>
-        <translation>Lesbares zeigen</translation>
-    </message>
-    <message>
         <source>Save As</source>
         <translation>Speichern unter</translation>
-    </message>
-    <message>
-        <source>“%1” could not be saved.</source>
-        <translation>„%1“ konnte nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>Export as PDF</source>
@@ -223,8 +195,44 @@ Den Rest zeigen, %2 Elemente? Die Datei bleibt, wie sie ist, bis Sie speichern.<
         <translation>PDF (*.pdf)</translation>
     </message>
     <message>
-        <source>The PDF could not be written.</source>
-        <translation>Das PDF konnte nicht geschrieben werden.</translation>
+        <source>Save changes to “%1”?</source>
+        <translation>Änderungen an „%1“ speichern?</translation>
+    </message>
+    <message>
+        <source>Unsaved changes will be lost.</source>
+        <translation>Nicht gespeicherte Änderungen gehen verloren.</translation>
+    </message>
+    <message>
+        <source>%1
+
+Open the rest (%2 items)? The file is not changed until you save.</source>
+        <translation>%1
+
+Den Rest öffnen (%2 Elemente)? Die Datei wird erst beim Speichern geändert.</translation>
+    </message>
+    <message>
+        <source>Only part of “%1” can be read.</source>
+        <translation>„%1“ ist nur zum Teil lesbar.</translation>
+    </message>
+    <message>
+        <source>Open Anyway</source>
+        <translation>Trotzdem öffnen</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be saved.</source>
+        <translation>„%1“ kann nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>“%1” does not contain all items.</source>
+        <translation>„%1“ enthält nicht alle Elemente.</translation>
+    </message>
+    <message>
+        <source>Items of these classes cannot be saved and are only on the page: %1.</source>
+        <translation>Elemente dieser Klassen können nicht gespeichert werden und sind nur auf der Seite: %1.</translation>
+    </message>
+    <message>
+        <source>The PDF cannot be written.</source>
+        <translation>Das PDF kann nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>
@@ -250,24 +258,12 @@ Den Rest zeigen, %2 Elemente? Die Datei bleibt, wie sie ist, bis Sie speichern.<
         <translation>Ein zweiter Klick</translation>
     </message>
     <message>
-        <source>fixes the other end of a staff, tie, bracket or line</source>
-        <translation>legt das andere Ende von System, Bogen, Klammer oder Linie fest</translation>
-    </message>
-    <message>
         <source>Right button held while placing</source>
         <translation>Rechte Taste beim Setzen gehalten</translation>
     </message>
     <message>
-        <source>turns a note over</source>
-        <translation>dreht eine Note um</translation>
-    </message>
-    <message>
         <source>Drag on empty paper</source>
         <translation>Ziehen auf leerem Papier</translation>
-    </message>
-    <message>
-        <source>selects what lies inside</source>
-        <translation>wählt aus, was darin liegt</translation>
     </message>
     <message>
         <source>Drag an item</source>
@@ -284,34 +280,6 @@ Den Rest zeigen, %2 Elemente? Die Datei bleibt, wie sie ist, bis Sie speichern.<
     <message>
         <source>stretches a figure or a text block</source>
         <translation>dehnt eine Figur oder einen Textblock</translation>
-    </message>
-    <message>
-        <source>Double click a text block</source>
-        <translation>Doppelklick auf einen Textblock</translation>
-    </message>
-    <message>
-        <source>types in it</source>
-        <translation>schreibt darin</translation>
-    </message>
-    <message>
-        <source>Right click a text</source>
-        <translation>Rechtsklick auf einen Text</translation>
-    </message>
-    <message>
-        <source>changes its words, font, colour and angle</source>
-        <translation>ändert Wortlaut, Schrift, Farbe und Winkel</translation>
-    </message>
-    <message>
-        <source>Right click a text block</source>
-        <translation>Rechtsklick auf einen Textblock</translation>
-    </message>
-    <message>
-        <source>changes its size of type</source>
-        <translation>ändert die Schriftgröße</translation>
-    </message>
-    <message>
-        <source>Ctrl and the wheel</source>
-        <translation>Strg und das Rad</translation>
     </message>
     <message>
         <source>zooms at the pointer</source>
@@ -334,10 +302,6 @@ Den Rest zeigen, %2 Elemente? Die Datei bleibt, wie sie ist, bis Sie speichern.<
         <translation>Pfeiltasten</translation>
     </message>
     <message>
-        <source>move the selection by a little</source>
-        <translation>bewegen die Auswahl ein wenig</translation>
-    </message>
-    <message>
         <source>Delete, Backspace</source>
         <translation>Entf, Rücktaste</translation>
     </message>
@@ -350,24 +314,12 @@ Den Rest zeigen, %2 Elemente? Die Datei bleibt, wie sie ist, bis Sie speichern.<
         <translation>Strg+C, Strg+V</translation>
     </message>
     <message>
-        <source>copy the selection; paste everything that was copied so far</source>
-        <translation>kopieren die Auswahl; fügen alles bisher Kopierte ein</translation>
-    </message>
-    <message>
         <source>Space</source>
         <translation>Leertaste</translation>
     </message>
     <message>
-        <source>one more item like the last one</source>
-        <translation>noch ein Element wie das letzte</translation>
-    </message>
-    <message>
         <source>F5</source>
         <translation>F5</translation>
-    </message>
-    <message>
-        <source>quick text: letters typed on the page open a text block</source>
-        <translation>Schnelltext: Tippen auf der Seite öffnet einen Textblock</translation>
     </message>
     <message>
         <source>Ctrl+Z, Ctrl+Shift+Z</source>
@@ -414,10 +366,6 @@ Den Rest zeigen, %2 Elemente? Die Datei bleibt, wie sie ist, bis Sie speichern.<
         <translation>Tasten und Maus</translation>
     </message>
     <message>
-        <source>The Musica Letters</source>
-        <translation>Die Buchstaben der Musica</translation>
-    </message>
-    <message>
         <source>About Tonquill</source>
         <translation>Über Tonquill</translation>
     </message>
@@ -425,41 +373,69 @@ Den Rest zeigen, %2 Elemente? Die Datei bleibt, wie sie ist, bis Sie speichern.<
         <source>&lt;h3&gt;Tonquill %1&lt;/h3&gt;&lt;p&gt;A sketch pad for music notation: symbols laid by hand, exactly where you want them.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Tonquill %1&lt;/h3&gt;&lt;p&gt;Ein Skizzenblock für Notenschrift: Zeichen von Hand gesetzt, genau dort, wo man sie will.&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>places the other end of a staff, tie, bracket or line</source>
+        <translation>setzt das andere Ende von System, Bogen, Klammer oder Linie</translation>
+    </message>
+    <message>
+        <source>flips a note</source>
+        <translation>dreht eine Note um</translation>
+    </message>
+    <message>
+        <source>selects the items inside</source>
+        <translation>wählt die Elemente darin aus</translation>
+    </message>
+    <message>
+        <source>Double-click a text block</source>
+        <translation>Doppelklick auf einen Textblock</translation>
+    </message>
+    <message>
+        <source>edits its text</source>
+        <translation>bearbeitet seinen Text</translation>
+    </message>
+    <message>
+        <source>Right-click a text</source>
+        <translation>Rechtsklick auf einen Text</translation>
+    </message>
+    <message>
+        <source>changes its text, font, colour and angle</source>
+        <translation>ändert Text, Schrift, Farbe und Winkel</translation>
+    </message>
+    <message>
+        <source>Right-click a text block</source>
+        <translation>Rechtsklick auf einen Textblock</translation>
+    </message>
+    <message>
+        <source>changes its font size</source>
+        <translation>ändert seine Schriftgröße</translation>
+    </message>
+    <message>
+        <source>Ctrl and the mouse wheel</source>
+        <translation>Strg und das Mausrad</translation>
+    </message>
+    <message>
+        <source>nudge the selection</source>
+        <translation>verschieben die Auswahl ein wenig</translation>
+    </message>
+    <message>
+        <source>copy the selection; paste everything copied so far</source>
+        <translation>kopieren die Auswahl; fügen alles bisher Kopierte ein</translation>
+    </message>
+    <message>
+        <source>adds another item like the last one</source>
+        <translation>fügt ein weiteres Element wie das letzte hinzu</translation>
+    </message>
+    <message>
+        <source>quick text on or off: typing on the page opens a text block</source>
+        <translation>Schnelltext ein oder aus: Tippen auf der Seite öffnet einen Textblock</translation>
+    </message>
+    <message>
+        <source>Letters of the Musica Font</source>
+        <translation>Buchstaben der Schrift Musica</translation>
+    </message>
 </context>
 <context>
     <name>InsertMenu</name>
-    <message>
-        <source>Whole rest</source>
-        <translation>Ganze Pause</translation>
-    </message>
-    <message>
-        <source>Half rest</source>
-        <translation>Halbe Pause</translation>
-    </message>
-    <message>
-        <source>Quarter rest</source>
-        <translation>Viertelpause</translation>
-    </message>
-    <message>
-        <source>Eighth rest</source>
-        <translation>Achtelpause</translation>
-    </message>
-    <message>
-        <source>16th rest</source>
-        <translation>16tel-Pause</translation>
-    </message>
-    <message>
-        <source>32nd rest</source>
-        <translation>32stel-Pause</translation>
-    </message>
-    <message>
-        <source>64th rest</source>
-        <translation>64stel-Pause</translation>
-    </message>
-    <message>
-        <source>128th rest</source>
-        <translation>128stel-Pause</translation>
-    </message>
     <message>
         <source>Rests</source>
         <translation>Pausen</translation>
@@ -580,12 +556,12 @@ Den Rest zeigen, %2 Elemente? Die Datei bleibt, wie sie ist, bis Sie speichern.<
         <translation>&amp;Tasten und Maus</translation>
     </message>
     <message>
-        <source>The &amp;Musica Letters</source>
-        <translation>Die Buchstaben der &amp;Musica</translation>
-    </message>
-    <message>
         <source>&amp;About Tonquill</source>
         <translation>Ü&amp;ber Tonquill</translation>
+    </message>
+    <message>
+        <source>Letters of the &amp;Musica Font</source>
+        <translation>Buchstaben der Schrift &amp;Musica</translation>
     </message>
 </context>
 <context>
@@ -618,14 +594,6 @@ Den Rest zeigen, %2 Elemente? Die Datei bleibt, wie sie ist, bis Sie speichern.<
         <translation>„%1“ wurde von einem anderen Programm geändert.</translation>
     </message>
     <message>
-        <source>Saving writes it anew.</source>
-        <translation>Beim Speichern wird sie neu angelegt.</translation>
-    </message>
-    <message>
-        <source>Overwriting loses what that program wrote. Reloading loses what you have changed here.</source>
-        <translation>Beim Überschreiben geht verloren, was jenes Programm geschrieben hat, beim Neuladen, was Sie hier geändert haben.</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Speichern</translation>
     </message>
@@ -642,20 +610,28 @@ Den Rest zeigen, %2 Elemente? Die Datei bleibt, wie sie ist, bis Sie speichern.<
         <translation>Neu laden</translation>
     </message>
     <message>
-        <source>What the window shows is no longer saved anywhere.</source>
-        <translation>Was das Fenster zeigt, ist nirgends mehr gespeichert.</translation>
-    </message>
-    <message>
-        <source>Reload it, and lose what you have changed here?</source>
-        <translation>Neu laden und verlieren, was Sie hier geändert haben?</translation>
-    </message>
-    <message>
         <source>Reload it?</source>
         <translation>Neu laden?</translation>
     </message>
     <message>
-        <source>Keep What Is Here</source>
-        <translation>Behalten, was hier ist</translation>
+        <source>Saving will create it again.</source>
+        <translation>Beim Speichern wird sie neu angelegt.</translation>
+    </message>
+    <message>
+        <source>Overwriting discards the other program&apos;s changes. Reloading discards yours.</source>
+        <translation>Überschreiben verwirft die Änderungen des anderen Programms, Neuladen verwirft Ihre.</translation>
+    </message>
+    <message>
+        <source>The document in this window is no longer saved anywhere.</source>
+        <translation>Das Dokument in diesem Fenster ist nirgends mehr gespeichert.</translation>
+    </message>
+    <message>
+        <source>Reload it and lose your changes?</source>
+        <translation>Neu laden und Ihre Änderungen verlieren?</translation>
+    </message>
+    <message>
+        <source>Keep This Version</source>
+        <translation>Diese Fassung behalten</translation>
     </message>
 </context>
 <context>
@@ -763,54 +739,6 @@ Den Rest zeigen, %2 Elemente? Die Datei bleibt, wie sie ist, bis Sie speichern.<
         <translation>Vorzeichen</translation>
     </message>
     <message>
-        <source>Repeat begin</source>
-        <translation>Wiederholungsanfang</translation>
-    </message>
-    <message>
-        <source>Repeat end</source>
-        <translation>Wiederholungsende</translation>
-    </message>
-    <message>
-        <source>Staff line</source>
-        <translation>Notenlinie</translation>
-    </message>
-    <message>
-        <source>Whole note (hold Ctrl for the rest)</source>
-        <translation>Ganze Note (für die Pause Strg halten)</translation>
-    </message>
-    <message>
-        <source>Half note (hold Ctrl for the rest)</source>
-        <translation>Halbe Note (für die Pause Strg halten)</translation>
-    </message>
-    <message>
-        <source>Quarter note (hold Ctrl for the rest)</source>
-        <translation>Viertelnote (für die Pause Strg halten)</translation>
-    </message>
-    <message>
-        <source>Eighth note (hold Ctrl for the rest)</source>
-        <translation>Achtelnote (für die Pause Strg halten)</translation>
-    </message>
-    <message>
-        <source>16th note (hold Ctrl for the rest)</source>
-        <translation>Sechzehntelnote (für die Pause Strg halten)</translation>
-    </message>
-    <message>
-        <source>32nd note (hold Ctrl for the rest)</source>
-        <translation>Zweiunddreißigstelnote (für die Pause Strg halten)</translation>
-    </message>
-    <message>
-        <source>64th note (hold Ctrl for the rest)</source>
-        <translation>Vierundsechzigstelnote (für die Pause Strg halten)</translation>
-    </message>
-    <message>
-        <source>128th note (hold Ctrl for the rest)</source>
-        <translation>Hundertachtundzwanzigstelnote (für die Pause Strg halten)</translation>
-    </message>
-    <message>
-        <source>Note dot</source>
-        <translation>Verlängerungspunkt</translation>
-    </message>
-    <message>
         <source>Triplet bracket</source>
         <translation>Triolenklammer</translation>
     </message>
@@ -819,32 +747,8 @@ Den Rest zeigen, %2 Elemente? Die Datei bleibt, wie sie ist, bis Sie speichern.<
         <translation>Haltebogen</translation>
     </message>
     <message>
-        <source>G clef</source>
-        <translation>Violinschlüssel</translation>
-    </message>
-    <message>
-        <source>F clef</source>
-        <translation>Bassschlüssel</translation>
-    </message>
-    <message>
-        <source>Flat</source>
-        <translation>Erniedrigungszeichen</translation>
-    </message>
-    <message>
-        <source>Sharp</source>
-        <translation>Kreuz</translation>
-    </message>
-    <message>
-        <source>Natural</source>
-        <translation>Auflösungszeichen</translation>
-    </message>
-    <message>
-        <source>Common time</source>
-        <translation>Viervierteltakt</translation>
-    </message>
-    <message>
-        <source>Cut time</source>
-        <translation>Allabreve-Takt</translation>
+        <source>hold Ctrl for the rest</source>
+        <translation>für die Pause Strg halten</translation>
     </message>
 </context>
 <context>
@@ -864,28 +768,6 @@ Den Rest zeigen, %2 Elemente? Die Datei bleibt, wie sie ist, bis Sie speichern.<
 <context>
     <name>RecoveryOffer</name>
     <message>
-        <source>Until this file is moved away, no other changes are kept for recovery:</source>
-        <translation>Solange diese Datei dort liegt, werden keine anderen Änderungen zur Wiederherstellung aufgehoben:</translation>
-    </message>
-    <message>
-        <source>It is kept in this file:</source>
-        <translation>Es liegt in dieser Datei:</translation>
-    </message>
-    <message>
-        <source>Tonquill ended unexpectedly, and what was not saved cannot be read.</source>
-        <translation>Tonquill wurde unerwartet beendet, und was nicht gespeichert war, ist nicht lesbar.</translation>
-    </message>
-    <message>
-        <source>a document without a name</source>
-        <translation>ein Dokument ohne Namen</translation>
-    </message>
-    <message>
-        <source>%1, %2.
-The file itself stays as it is until you save.</source>
-        <translation>%1, %2.
-Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
-    </message>
-    <message>
         <source>Tonquill ended unexpectedly. Recover the unsaved changes?</source>
         <translation>Tonquill wurde unerwartet beendet. Die ungespeicherten Änderungen wiederherstellen?</translation>
     </message>
@@ -902,23 +784,45 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
         <translation>Nicht alles ist lesbar:</translation>
     </message>
     <message>
-        <source>All that was kept is in this file:</source>
-        <translation>Alles, was aufgehoben war, liegt in dieser Datei:</translation>
+        <source>Until this file is moved, no further changes can be recovered after a crash:</source>
+        <translation>Solange diese Datei dort liegt, können weitere Änderungen nach einem Absturz nicht wiederhergestellt werden:</translation>
+    </message>
+    <message>
+        <source>They are kept in this file:</source>
+        <translation>Sie sind in dieser Datei aufgehoben:</translation>
+    </message>
+    <message>
+        <source>Tonquill ended unexpectedly, and the unsaved changes cannot be read.</source>
+        <translation>Tonquill wurde unerwartet beendet, und die ungespeicherten Änderungen sind nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>an untitled document</source>
+        <translation>ein unbenanntes Dokument</translation>
+    </message>
+    <message>
+        <source>%1, %2.
+The file itself is not changed until you save.</source>
+        <translation>%1, %2.
+Die Datei selbst wird erst beim Speichern geändert.</translation>
+    </message>
+    <message>
+        <source>Everything is kept in this file:</source>
+        <translation>Alles ist in dieser Datei aufgehoben:</translation>
     </message>
 </context>
 <context>
     <name>SaveDialog</name>
     <message>
-        <source>“%1” exists already.</source>
-        <translation>„%1“ gibt es schon.</translation>
-    </message>
-    <message>
-        <source>Replacing it loses what it holds now.</source>
-        <translation>Beim Ersetzen geht der jetzige Inhalt verloren.</translation>
-    </message>
-    <message>
         <source>Replace</source>
         <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>“%1” already exists.</source>
+        <translation>„%1“ existiert bereits.</translation>
+    </message>
+    <message>
+        <source>Replacing it will overwrite its contents.</source>
+        <translation>Beim Ersetzen wird ihr Inhalt überschrieben.</translation>
     </message>
 </context>
 <context>
@@ -931,36 +835,12 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
 <context>
     <name>SoloApplication</name>
     <message>
-        <source>A sketch pad for music notation, with files of its own.</source>
-        <translation>Ein Skizzenblock für Notenschrift, mit eigenen Dateien.</translation>
-    </message>
-    <message>
-        <source>Write FILE as PDF, PNG or SVG, told by the suffix of &lt;out&gt;, and show no window.</source>
-        <translation>DATEI als PDF, PNG oder SVG schreiben, nach der Endung von &lt;out&gt;, und kein Fenster zeigen.</translation>
-    </message>
-    <message>
-        <source>The page of a PNG or SVG picture; the first if not given.</source>
-        <translation>Die Seite eines PNG- oder SVG-Bildes; ohne Angabe die erste.</translation>
-    </message>
-    <message>
-        <source>Dots per inch of a PNG picture; 150 if not given.</source>
-        <translation>Punkte je Zoll eines PNG-Bildes; ohne Angabe 150.</translation>
-    </message>
-    <message>
-        <source>Open a copy of &lt;file&gt; if the program was never started before.</source>
-        <translation>Eine Kopie von &lt;file&gt; öffnen, wenn das Programm noch nie gestartet wurde.</translation>
-    </message>
-    <message>
         <source>The document to open.</source>
         <translation>Das Dokument, das geöffnet wird.</translation>
     </message>
     <message>
         <source>--export needs a document</source>
         <translation>--export braucht ein Dokument</translation>
-    </message>
-    <message>
-        <source>A host for Tonquill is running already.</source>
-        <translation>Ein Wirtsprogramm für Tonquill läuft schon.</translation>
     </message>
     <message>
         <source>It keeps the document and its history. Tonquill can open as its editor, without files and menus of its own.</source>
@@ -971,20 +851,44 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
         <translation>Als dessen Editor öffnen</translation>
     </message>
     <message>
-        <source>The toolbar&apos;s undo and redo cannot be used; the menu&apos;s can.</source>
-        <translation>„Rückgängig“ und „Wiederholen“ der Werkzeugleiste sind nicht verfügbar, die des Menüs schon.</translation>
-    </message>
-    <message>
-        <source>Another start of Tonquill will not find this window.</source>
-        <translation>Ein weiterer Start von Tonquill findet dieses Fenster nicht.</translation>
-    </message>
-    <message>
-        <source>Another Tonquill is running and does not answer.</source>
-        <translation>Ein anderes Tonquill läuft und antwortet nicht.</translation>
-    </message>
-    <message>
         <source>It may open “%1” later.</source>
         <translation>Es öffnet „%1“ vielleicht später.</translation>
+    </message>
+    <message>
+        <source>A sketch pad for music notation.</source>
+        <translation>Ein Skizzenblock für Notenschrift.</translation>
+    </message>
+    <message>
+        <source>Export FILE as PDF, PNG or SVG, depending on the suffix of &lt;out&gt;, without showing a window.</source>
+        <translation>DATEI als PDF, PNG oder SVG exportieren, je nach Endung von &lt;out&gt;, ohne ein Fenster zu zeigen.</translation>
+    </message>
+    <message>
+        <source>The page to export as PNG or SVG (default: 1).</source>
+        <translation>Die Seite, die als PNG oder SVG exportiert wird (Vorgabe: 1).</translation>
+    </message>
+    <message>
+        <source>The resolution of a PNG picture in dots per inch (default: 150).</source>
+        <translation>Die Auflösung eines PNG-Bildes in Punkten je Zoll (Vorgabe: 150).</translation>
+    </message>
+    <message>
+        <source>Open a copy of &lt;file&gt; the first time the program is started.</source>
+        <translation>Beim ersten Start des Programms eine Kopie von &lt;file&gt; öffnen.</translation>
+    </message>
+    <message>
+        <source>If you start Tonquill again, it will not find this window.</source>
+        <translation>Wenn Sie Tonquill noch einmal starten, findet es dieses Fenster nicht.</translation>
+    </message>
+    <message>
+        <source>Undo and redo only work from the menu, not from the toolbar.</source>
+        <translation>„Rückgängig“ und „Wiederholen“ sind nur im Menü verfügbar, nicht in der Werkzeugleiste.</translation>
+    </message>
+    <message>
+        <source>Tonquill is already running but does not respond.</source>
+        <translation>Tonquill läuft bereits, antwortet aber nicht.</translation>
+    </message>
+    <message>
+        <source>A host for Tonquill is already running.</source>
+        <translation>Ein Wirtsprogramm für Tonquill läuft bereits.</translation>
     </message>
 </context>
 <context>
@@ -994,8 +898,119 @@ Die Datei selbst bleibt, wie sie ist, bis Sie speichern.</translation>
         <translation>%1[*] – Tonquill</translation>
     </message>
     <message>
-        <source>Unsaved changes cannot be kept for recovery after a crash.</source>
-        <translation>Ungespeicherte Änderungen können nicht für die Wiederherstellung nach einem Absturz aufgehoben werden.</translation>
+        <source>Unsaved changes cannot be recovered after a crash.</source>
+        <translation>Ungespeicherte Änderungen können nach einem Absturz nicht wiederhergestellt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>SymbolTable</name>
+    <message>
+        <source>Common time</source>
+        <translation>Viervierteltakt</translation>
+    </message>
+    <message>
+        <source>Cut time</source>
+        <translation>Allabreve-Takt</translation>
+    </message>
+    <message>
+        <source>G clef</source>
+        <translation>Violinschlüssel</translation>
+    </message>
+    <message>
+        <source>F clef</source>
+        <translation>Bassschlüssel</translation>
+    </message>
+    <message>
+        <source>Sharp</source>
+        <translation>Kreuz</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>Erniedrigungszeichen</translation>
+    </message>
+    <message>
+        <source>Natural</source>
+        <translation>Auflösungszeichen</translation>
+    </message>
+    <message>
+        <source>Repeat begin</source>
+        <translation>Wiederholungsanfang</translation>
+    </message>
+    <message>
+        <source>Repeat end</source>
+        <translation>Wiederholungsende</translation>
+    </message>
+    <message>
+        <source>Staff line</source>
+        <translation>Notenlinie</translation>
+    </message>
+    <message>
+        <source>Note dot</source>
+        <translation>Verlängerungspunkt</translation>
+    </message>
+    <message>
+        <source>Whole note</source>
+        <translation>Ganze Note</translation>
+    </message>
+    <message>
+        <source>Whole rest</source>
+        <translation>Ganze Pause</translation>
+    </message>
+    <message>
+        <source>Half note</source>
+        <translation>Halbe Note</translation>
+    </message>
+    <message>
+        <source>Half rest</source>
+        <translation>Halbe Pause</translation>
+    </message>
+    <message>
+        <source>Quarter note</source>
+        <translation>Viertelnote</translation>
+    </message>
+    <message>
+        <source>Quarter rest</source>
+        <translation>Viertelpause</translation>
+    </message>
+    <message>
+        <source>Eighth note</source>
+        <translation>Achtelnote</translation>
+    </message>
+    <message>
+        <source>Eighth rest</source>
+        <translation>Achtelpause</translation>
+    </message>
+    <message>
+        <source>16th note</source>
+        <translation>Sechzehntelnote</translation>
+    </message>
+    <message>
+        <source>16th rest</source>
+        <translation>16tel-Pause</translation>
+    </message>
+    <message>
+        <source>32nd note</source>
+        <translation>Zweiunddreißigstelnote</translation>
+    </message>
+    <message>
+        <source>32nd rest</source>
+        <translation>32stel-Pause</translation>
+    </message>
+    <message>
+        <source>64th note</source>
+        <translation>Vierundsechzigstelnote</translation>
+    </message>
+    <message>
+        <source>64th rest</source>
+        <translation>64stel-Pause</translation>
+    </message>
+    <message>
+        <source>128th note</source>
+        <translation>Hundertachtundzwanzigstelnote</translation>
+    </message>
+    <message>
+        <source>128th rest</source>
+        <translation>128stel-Pause</translation>
     </message>
 </context>
 <context>
