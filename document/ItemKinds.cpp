@@ -18,6 +18,7 @@
 #include "TonquillVectorTriplet.h"
 
 #include <QGraphicsScene>
+#include <QMetaMethod>
 
 namespace
 {
@@ -66,8 +67,11 @@ RecordedItem readText(QStringView fields, bool adding, const SymbolSource &)
 
 void joinText(QGraphicsItem &item, QGraphicsScene &scene)
 {
-    QObject::connect(static_cast<TonquillText *>(&item), SIGNAL(showTextItemMenu(TonquillText *)),
-                     &scene, SLOT(onTextItemContextMenu(TonquillText *)));
+    // Looked up once: by their names they would be searched for with every text.
+    static const QMetaMethod asks = QMetaMethod::fromSignal(&TonquillText::showTextItemMenu);
+    static const QMetaMethod opens = scene.metaObject()->method(
+        scene.metaObject()->indexOfSlot("onTextItemContextMenu(TonquillText*)"));
+    QObject::connect(static_cast<TonquillText *>(&item), asks, &scene, opens);
     scene.update();
 }
 
