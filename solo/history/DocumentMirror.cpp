@@ -42,10 +42,10 @@ void DocumentMirror::readAll()
     m_places = {};
     LineList lines;
     for (QGraphicsItem *item : DocumentSnapshot::itemsOf(m_window)) {
+        const QByteArray line = DocumentSnapshot::lineOf(item);
         if (!DocumentItem::of(item))
             continue;
         const Height height{item->zValue(), ++m_topmost};
-        const QByteArray line = DocumentSnapshot::lineOf(item);
         m_known.insert(item, {height, !line.isEmpty(), false});
         if (line.isEmpty())
             continue;
