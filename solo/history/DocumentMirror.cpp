@@ -39,9 +39,11 @@ void DocumentMirror::readAll()
     m_gone.clear();
     m_isAllToBeRead = false;
     m_topmost = 0;
-    m_places = {};
-    LineList lines;
-    for (QGraphicsItem *item : DocumentSnapshot::itemsOf(m_window)) {
+    QList<QByteArray> lines;
+    QList<Place> places;
+    const QList<QGraphicsItem *> items = DocumentSnapshot::itemsOf(m_window);
+    m_known.reserve(items.size());
+    for (QGraphicsItem *item : items) {
         const QByteArray line = DocumentSnapshot::lineOf(item);
         if (!DocumentItem::of(item))
             continue;
@@ -50,8 +52,9 @@ void DocumentMirror::readAll()
         if (line.isEmpty())
             continue;
         lines.append(line);
-        m_places.append({height, item});
+        places.append({height, item});
     }
+    m_places = places;
     m_document.items.become(lines);
     m_document.paper = DocumentSnapshot::paperOf(m_window);
     m_document.pageCount = m_window.pageCount;

@@ -43,8 +43,10 @@ bool UndoHistory::record(const DocumentSnapshot &state, bool sameGesture)
     }
     dropRedo();
     m_current = state;
-    if (state != before) {
-        Step step = difference(before, state);
+    Step step = difference(before, state);
+    const bool leadsBack =
+        step.hunks.isEmpty() && before.pageCount == state.pageCount && before.paper == state.paper;
+    if (!leadsBack) {
         step.selection = m_selection;
         push(step);
     }
