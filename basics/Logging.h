@@ -2,8 +2,8 @@
 
 #include <QLoggingCategory>
 
-// Diagnostics, without any behaviour. The first is on; the others write a line for each record,
-// pointer event or painting and are switched on with QT_LOGGING_RULES="tonquill.*=true".
+// Log categories. The first is on by default; the others log every record, pointer event or paint
+// and are enabled with QT_LOGGING_RULES="tonquill.*=true".
 Q_DECLARE_LOGGING_CATEGORY(lcTonquill)
 Q_DECLARE_LOGGING_CATEGORY(lcRecords)
 Q_DECLARE_LOGGING_CATEGORY(lcPointer)

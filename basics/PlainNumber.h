@@ -5,13 +5,12 @@
 #include <optional>
 
 /**
- * The value of a text of one to nine digits, with or without a minus sign in front; nothing for any
- * other text. Nearly all numbers of a document are such, and Qt, which reads the others as
- * well, takes ten times as long.
+ * The value of one to nine digits with an optional minus sign; nullopt for any other text. Nearly
+ * all numbers of a document have this form, and Qt's general conversion takes ten times as long.
  */
 inline std::optional<int> plainNumber(QStringView text)
 {
-    constexpr qsizetype mostDigits = 9; // so many fit an int, whatever they are
+    constexpr qsizetype mostDigits = 9; // always fits an int
     const bool negative = text.startsWith(u'-');
     const QStringView digits = text.sliced(negative ? 1 : 0);
     if (digits.isEmpty() || digits.size() > mostDigits)

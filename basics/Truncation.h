@@ -3,8 +3,8 @@
 #include <limits>
 
 /**
- * The whole part of a coordinate, towards zero: 12.9 is 12, -0.5 is 0. What no int can hold is
- * clamped to the nearest int, and a NaN is 0, so that every double has a defined answer.
+ * Truncates a coordinate towards zero: 12.9 gives 12, -0.5 gives 0. Values outside the range of int
+ * are clamped and NaN gives 0, so the result is defined for every double.
  */
 constexpr int truncatedToInt(double value)
 {

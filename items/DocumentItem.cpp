@@ -18,7 +18,7 @@ void DocumentItem::setObserved(bool observed)
     graphicsItem().setFlag(QGraphicsItem::ItemSendsGeometryChanges, observed);
 }
 
-/** The scene keeps waiting items at hand: a walk over all for each new one takes too long. */
+/** The scene keeps a list of waiting items: searching all items for each new one is too slow. */
 void DocumentItem::joinScene()
 {
     QGraphicsItem &item = graphicsItem();
@@ -145,8 +145,7 @@ void DocumentItem::endDrag()
 }
 
 /**
- * A text block keeps its grab after a drag, so the grab of another item is taken away first: Qt
- * would refuse the new one.
+ * A text block keeps its grab after a drag. Qt would refuse a second grab, so it is released first.
  */
 void DocumentItem::takeMouseGrab()
 {

@@ -11,10 +11,10 @@
 
 class QTextDocument;
 
-/** In what the kinds of items differ while the pointer acts on them. */
+/** How the kinds of items differ in handling the pointer. */
 struct PointerManners
 {
-    /** When a dragged item holds the scene's mouse grab. */
+    /** When a dragged item takes the scene's mouse grab. */
     enum class Grab {
         Never,
         WhileDragged,
@@ -22,21 +22,21 @@ struct PointerManners
     };
 
     Grab grab = Grab::Never;
-    bool followsWithButtonsHeld = true; ///< a new item follows the pointer whatever is pressed
-    bool dragsWithAnyButton = false;    ///< once a drag has begun, other buttons do not halt it
-    bool notesEveryPress = false;       ///< a press in the middle of a drag begins its way anew
-    bool isStretchedOnceLaid = false;   ///< its first click lays it, the second one ends it
+    bool followsWithButtonsHeld = true; ///< a new item follows the pointer with any button held
+    bool dragsWithAnyButton = false;    ///< other buttons do not interrupt a drag
+    bool notesEveryPress = false;       ///< a press during a drag restarts it from there
+    bool isStretchedOnceLaid = false;   ///< the first click sets its start, the second its end
 };
 
 /**
- * What every item of the document is beside the graphics item that it derives from: something that
- * the pointer lays, moves and resizes, with a SelectionFrame, and that tells the scene what becomes
- * of it. Classes derive from DocumentItemOf.
+ * Base of every item of the document, beside Qt's graphics item: handles placing, moving and
+ * resizing with the pointer, owns a SelectionFrame, and announces changes to the scene. Classes
+ * derive from DocumentItemOf.
  */
 class DocumentItem
 {
 public:
-    /** The document item that `item` is, or null. */
+    /** `item` as a document item; null if it is none. */
     static DocumentItem *of(QGraphicsItem *item) { return dynamic_cast<DocumentItem *>(item); }
     static const DocumentItem *of(const QGraphicsItem *item)
     {
@@ -48,30 +48,30 @@ public:
     ItemStatus status() const { return m_status; }
     int itemStatus() const { return static_cast<int>(m_status); }
 
-    /** True for a new item until it is placed. Until then it is no part of the document. */
+    /** True for a new item until it is placed. Until then it is not part of the document. */
     bool isWaiting() const
     {
         return m_status == ItemStatus::Adding || m_status == ItemStatus::Stretching;
     }
 
-    /** True while the pointer moves or resizes an item that was placed before. */
+    /** True while the pointer moves or resizes a placed item. */
     bool isHeld() const
     {
         return m_status == ItemStatus::Moving || m_status == ItemStatus::Resizing;
     }
 
-    /** Its anchors; owned by the item. */
+    /** The item's anchors; owned by the item. */
     SelectionFrame &frame() { return m_frame; }
     const SelectionFrame &frame() const { return m_frame; }
 
-    /** Tells whoever observes the scene, if there is one and the item stands on it. */
+    /** Notifies the scene's observer; does nothing without a scene or an observer. */
     void announce(ItemEvent event);
 
-    /** Has Qt tell of moves from now on, which costs each move a little; or not any more. */
+    /** Enables or disables Qt's notifications of moves, which make each move a little slower. */
     void setObserved(bool observed);
 
 protected:
-    /** A new item waits to be placed if it is `adding`. */
+    /** With `adding` the item waits to be placed. */
     DocumentItem(QGraphicsItem *item, bool adding)
         : m_status(adding ? ItemStatus::Adding : ItemStatus::Placed)
         , m_frame(item)
@@ -80,27 +80,29 @@ protected:
 
     virtual const PointerManners &manners() const = 0;
 
-    /** The anchor by which a press at this point, in item coordinates, resizes the item; or -1. */
+    /**
+     * The anchor that resizes the item when pressed at this point, in item coordinates; -1 if none.
+     */
     virtual int resizingAnchorAt(QPointF point) const;
 
     /** Moves the anchor's corner or end to the point, in item coordinates. */
     virtual void dragAnchorTo(int anchor, QPointF point);
 
-    /** The last step of a resize. Whatever it runs may take the item away. */
+    /** The last step of a resize. The item may be deleted when it returns. */
     virtual void resized() {}
 
-    // The steps of the pointer cycle, to be called from the item's handlers of mouse events.
+    // The steps of the pointer cycle, called by the item's mouse event handlers.
     void press(const QGraphicsSceneMouseEvent &event);
     void move(const QGraphicsSceneMouseEvent &event);
     void release(const QGraphicsSceneMouseEvent &event);
 
     /**
-     * To be called by an item that shows this text, which it owns: words, formats, font and width
-     * may be changed by many, but none of it without laying out the text anew.
+     * Announces all changes of `text`, which the item shows and owns. Every change of its content,
+     * formats, font or width causes a new layout, whoever makes it.
      */
     void announceChangesOf(const QTextDocument &text);
 
-    /** To be called from the item's itemChange(). */
+    /** Called by the item's itemChange(). */
     void announceChange(QGraphicsItem::GraphicsItemChange change);
 
 private:
@@ -112,12 +114,12 @@ private:
     void releaseMouseGrab();
 
     ItemStatus m_status;
-    int m_activeAnchor = 1; ///< the one that is dragged; of a new item its end
+    int m_activeAnchor = 1; ///< the dragged one; for a new item its end point
     QPointF m_lastPointer;  ///< scene coordinates
     SelectionFrame m_frame;
 };
 
-/** A graphics item of Qt with all that a DocumentItem needs of it. */
+/** A graphics item of Qt combined with DocumentItem. */
 template <typename QtItem>
 class DocumentItemOf : public QtItem, public DocumentItem
 {
@@ -125,7 +127,7 @@ public:
     QGraphicsItem &graphicsItem() override { return *this; }
 
 protected:
-    /** The arguments behind `adding` go to the constructor of the Qt class. */
+    /** The arguments after `adding` are passed to the constructor of the Qt class. */
     template <typename... Arguments>
     explicit DocumentItemOf(bool adding, Arguments &&...arguments)
         : QtItem(std::forward<Arguments>(arguments)...)

@@ -16,8 +16,7 @@
 
 namespace
 {
-/** A letter with a meaning in XML, what stands in for it (of no language), and how it is escaped.
- */
+/** A special character of XML, its stand-in (a private-use character), and its escaped form. */
 struct StandIn
 {
     QChar letter;
@@ -31,7 +30,7 @@ constexpr std::array standIns{
     StandIn{u'<', u'\uf8f2', QLatin1String("&lt;")},
 };
 
-/** True for what XML cannot hold in any way. */
+/** True for characters that XML cannot contain, not even escaped. */
 bool isForbidden(QChar c)
 {
     return (c < u' ' && c != u'\t' && c != u'\n' && c != u'\r') || c >= u'\ufffe';
@@ -65,7 +64,7 @@ QStringList familiesOf(const QTextFormat &format)
     return format.toCharFormat().fontFamilies().toStringList();
 }
 
-/** What a part of the text that `cursor` has selected needs in place of its families. */
+/** Replaces the special characters in the family names of the text that `cursor` has selected. */
 void makeSafe(QTextCursor cursor, const QTextCharFormat &present)
 {
     QTextCharFormat changed;
@@ -131,7 +130,7 @@ std::unique_ptr<QTextDocument> DrawingText::copyOf(const QTextDocument &text)
 QString DrawingText::finished(QString svg)
 {
     std::replace_if(svg.begin(), svg.end(), isForbidden, QChar::ReplacementCharacter);
-    // Quotation marks in texts are escaped, so this is nothing but the families.
+    // Quotation marks in texts are escaped, so this matches only the attributes.
     static const QRegularExpression family(QStringLiteral("font-family=\"[^\"]*\""));
     QString result;
     qsizetype end = 0;

@@ -8,18 +8,20 @@ class QPainter;
 class QTextDocument;
 
 /**
- * Texts in a drawing (SVG), into which Qt writes a font's family as it stands: one with a quotation
- * mark would end there and begin something of its own. Such a family is painted with stand-ins for
- * the letters that mean something, and the finished drawing gets those letters, escaped.
+ * Texts in a drawing (SVG). Qt writes the names of font families unescaped, so a quotation mark in
+ * one would end the attribute. Such names are painted with stand-ins for the special characters,
+ * which are replaced by escaped ones in the finished drawing.
  */
 namespace DrawingText
 {
-/** True if the painter draws on a drawing that the text's families would break. */
+/** True if the painter draws an SVG that the names of the text's families would break. */
 bool isNeeded(const QPainter &painter, const QTextDocument &text);
 
-/** The text with stand-ins in the names of its families; it is laid out anew. */
+/** A copy of the text with stand-ins in the names of its families, laid out again. */
 std::unique_ptr<QTextDocument> copyOf(const QTextDocument &text);
 
-/** The finished drawing with the families' own letters, and without what no XML may hold. */
+/**
+ * The drawing with the original names of families, and without characters that XML cannot contain.
+ */
 QString finished(QString svg);
 } // namespace DrawingText

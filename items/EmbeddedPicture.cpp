@@ -5,7 +5,7 @@
 
 namespace
 {
-/** The format by the first bytes, as Qt calls it; empty if it is none of those that are shown. */
+/** Qt's name of the format, detected by the first bytes; empty if it is not supported. */
 QByteArray formatOf(const QByteArray &bytes)
 {
     if (bytes.startsWith("\x89PNG\r\n\x1a\n"))
@@ -22,7 +22,10 @@ QByteArray formatOf(const QByteArray &bytes)
     return QByteArray();
 }
 
-/** Calls `use` with a reader that knows this picture's format only; else the answer is empty. */
+/**
+ * Calls `use` with a reader for this picture's format only; returns a default value for other
+ * formats.
+ */
 template <typename Use>
 auto withReader(const QByteArray &bytes, const Use &use)
 {

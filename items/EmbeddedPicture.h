@@ -4,22 +4,22 @@
 #include <QImage>
 #include <QUrl>
 
-/** Pictures that a formatted text brings along in `data:` addresses. They may be a stranger's. */
+/** Pictures that a formatted text contains as `data:` URLs. They may come from untrusted files. */
 namespace EmbeddedPicture
 {
-/** More pixels than this are decoded neither for one picture nor for all of a text. */
+/** The most pixels that are decoded for one picture, and for all pictures of a text. */
 inline constexpr qint64 mostPixels = 16'000'000;
 
-/** The bytes that a `data:` address stands for; none for any other address. */
+/** The decoded bytes of a `data:` URL; empty for any other URL. */
 QByteArray bytesOf(const QUrl &address);
 
-/** How many pixels an encoded picture has, without decoding it; 0 if it is none that is shown. */
+/** The number of pixels of an encoded picture, without decoding it; 0 if it is not supported. */
 qint64 pixelsOf(const QByteArray &bytes);
 
 /**
- * Decodes a picture in PNG, JPEG, GIF, BMP or WebP, as far as Qt can; its content tells which, not
- * what it is called. Any other is null: a drawing (SVG) may name files that would be opened. So is
- * one with more than `most` pixels.
+ * Decodes a PNG, JPEG, GIF, BMP or WebP picture, as far as Qt supports it; the content decides, not
+ * the declared type. Returns a null image for other formats (an SVG may refer to files) and for
+ * more than `most` pixels.
  */
 QImage decoded(const QByteArray &bytes, qint64 most = mostPixels);
 } // namespace EmbeddedPicture

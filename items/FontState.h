@@ -9,7 +9,7 @@
 class LineReader;
 class LineWriter;
 
-/** What a font has that the text dialog or the size menu sets. */
+/** The properties of a font that the text dialog or the size menu sets. */
 struct FontState
 {
     QString family;
@@ -20,7 +20,7 @@ struct FontState
     bool underline = false;
     bool operator==(const FontState &) const = default;
 
-    /** True if letters can have this size and weight. */
+    /** True if the size and weight are valid for a font. */
     bool isPossible() const
     {
         constexpr int lightest = 1;
@@ -31,16 +31,16 @@ struct FontState
 
     static FontState of(const QFont &font);
 
-    /** The family and size of letters that nobody has chosen a font for. */
+    /** The family and size of texts without a chosen font. */
     static FontState plain();
 
     QFont toFont() const;
 
-    /** Reads the font's fields of a line, which is valid only if letters can be like that. */
+    /** Reads the font's fields of a line; the line becomes invalid if the font is not possible. */
     static FontState read(LineReader &line);
 
     void write(LineWriter &line) const;
 
-    /** The names of its fields. */
+    /** The names of its fields in a line. */
     static QStringList fieldNames();
 };

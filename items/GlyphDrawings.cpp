@@ -11,7 +11,9 @@
 
 #include <cmath>
 
-/** The drawings are in this library, which programs link statically. Outside of any namespace. */
+/**
+ * Registers the drawings of this static library. Q_INIT_RESOURCE only works outside of namespaces.
+ */
 static void haveDrawings()
 {
     Q_INIT_RESOURCE(images);
@@ -19,7 +21,7 @@ static void haveDrawings()
 
 namespace
 {
-/** One glyph's finer drawing, made when it is first asked for. */
+/** One glyph's finer drawing, loaded when first needed. */
 struct Glyph
 {
     QString path;
@@ -41,13 +43,13 @@ struct Glyph
     }
 };
 
-/** A drawing made smaller: of which pixmap, to which size, and where in its first pixel. */
+/** Identifies a reduced drawing: its pixmap, its scale and its offset within the first pixel. */
 struct Reduction
 {
     qint64 pixmap;
     int across; ///< the scale, in 65536ths
     int down;
-    QPoint phase; ///< in parts of a pixel, whose number follows from the scale
+    QPoint phase; ///< in parts of a pixel, see partsOfPixel()
 
     bool operator==(const Reduction &other) const = default;
 };
@@ -59,7 +61,7 @@ size_t qHash(const Reduction &key, size_t seed)
 
 constexpr int scaleUnit = 65536;
 
-/** Room for every glyph of a page at any one zoom. */
+/** Enough for every glyph of a page at one zoom. */
 constexpr int mostBytesKept = 16 * 1024 * 1024;
 
 QHash<qint64, Glyph> &glyphsByPixmap()
@@ -74,20 +76,20 @@ QCache<Reduction, QImage> &reductions()
     return images;
 }
 
-/** True where a unit is a device pixel, so that the pixmap is exactly what is to be seen. */
+/** True if a unit is a device pixel, so that the pixmap can be drawn as it is. */
 bool isPixelForPixel(const QPainter &painter)
 {
     return !PaperPainting::isPrinter(painter) &&
            painter.deviceTransform().type() <= QTransform::TxTranslate;
 }
 
-/** True if what is painted is at most moved and scaled. */
+/** True if the transform only moves and scales. */
 bool isUpright(const QTransform &toDevice)
 {
     return toDevice.type() <= QTransform::TxScale && toDevice.m11() > 0 && toDevice.m22() > 0;
 }
 
-/** How many device pixels a unit has across and down; as many in both ways if it is turned. */
+/** Device pixels per unit, across and down; equal in both directions if rotated. */
 QSizeF pixelsPerUnit(const QTransform &toDevice)
 {
     if (isUpright(toDevice))
@@ -96,7 +98,7 @@ QSizeF pixelsPerUnit(const QTransform &toDevice)
     return QSizeF(both, both);
 }
 
-/** In how many parts of a pixel a place is told: large glyphs need less care than small ones. */
+/** The number of sub-pixel positions: large glyphs need fewer than small ones. */
 int partsOfPixel(qreal pixelsPerUnit)
 {
     if (pixelsPerUnit >= 4)
@@ -104,14 +106,16 @@ int partsOfPixel(qreal pixelsPerUnit)
     return pixelsPerUnit >= 2 ? 2 : 4;
 }
 
-/** How many pixels of the finer drawing a unit of the pixmap's has. */
+/** Pixels of the finer drawing per pixel of the pixmap. */
 QSizeF finenessOf(const QImage &drawing, const QPixmap &pixmap)
 {
     return QSizeF(qreal(drawing.width()) / pixmap.width(),
                   qreal(drawing.height()) / pixmap.height());
 }
 
-/** The glyph so many pixels large, its corner `phase` of so many parts into the first of them. */
+/**
+ * The glyph reduced to `pixels` per unit; its corner lies `phase` / `parts` within the first pixel.
+ */
 QImage reducedDrawing(const QPixmap &pixmap, Glyph &glyph, QSizeF pixels, QPoint phase, int parts)
 {
     const Reduction key{pixmap.cacheKey(), qRound(pixels.width() * scaleUnit),
@@ -125,7 +129,7 @@ QImage reducedDrawing(const QPixmap &pixmap, Glyph &glyph, QSizeF pixels, QPoint
     return made;
 }
 
-/** Lays the drawing on the device's pixels one for one, as quick as the pixmap itself. */
+/** Draws the drawing pixel for pixel, as fast as the pixmap itself. */
 void paintReduced(QPainter &painter, const QPixmap &pixmap, Glyph &glyph, QPointF topLeft)
 {
     const QTransform toDevice = painter.deviceTransform();
@@ -144,7 +148,7 @@ void paintReduced(QPainter &painter, const QPixmap &pixmap, Glyph &glyph, QPoint
     painter.setWorldTransform(before);
 }
 
-/** A turned glyph is first given its size, then turned, with white round it for soft edges. */
+/** A rotated glyph is scaled first, then rotated, with a white margin for smooth edges. */
 void paintTurned(QPainter &painter, const QPixmap &pixmap, Glyph &glyph, QPointF topLeft)
 {
     const QPoint border(1, 1);
@@ -162,7 +166,7 @@ void paintFinest(QPainter &painter, const QPixmap &pixmap, Glyph &glyph, QPointF
     painter.drawImage(QRectF(topLeft, QSizeF(pixmap.size())), glyph.fineDrawing());
 }
 
-/** For a picture that is shown at sizes not yet known, as the print preview does. */
+/** For pictures that are shown at any size later, such as the print preview. */
 void paintOutline(QPainter &painter, const QPixmap &pixmap, Glyph &glyph, QPointF topLeft)
 {
     const QSizeF fineness = finenessOf(glyph.fineDrawing(), pixmap);

@@ -6,24 +6,26 @@
 class QPainter;
 
 /**
- * The finer drawings behind the glyphs' pixmaps.
+ * The high-resolution drawings of the glyphs' pixmaps.
  *
- * A glyph's pixmap is drawn at 8 pixels a staff space, right for an ordinary screen at 100 %. At
- * any other size the same glyph is drawn from a picture of 64 pixels a space, over the same
- * rectangle: made smaller so that no ink is lost, or on paper as fine as it is.
+ * A glyph's pixmap has 8 pixels per staff space, which suits an ordinary screen at 100 %. At any
+ * other size the glyph is drawn from a picture of 64 pixels per space in the same rectangle:
+ * reduced without losing ink, or on paper at full resolution.
  */
 namespace GlyphDrawings
 {
-/** The picture in a resource as ink: white is transparent, grey covers by its darkness. */
+/**
+ * Loads a picture from a resource as ink: white becomes transparent, grey becomes partly opaque.
+ */
 QImage loadInk(const QString &path, const QColor &ink = Qt::black);
 
-/** Remembers that `pixmap` has a finer drawing at `path`; it is loaded when first needed. */
+/** Registers the finer drawing at `path` for `pixmap`; it is loaded when first needed. */
 void setFineDrawing(const QPixmap &pixmap, const QString &path);
 
 /**
- * Draws `pixmap`'s finer drawing where the pixmap would lie with its corner at `topLeft`, in the
- * painter's coordinates. False, with nothing drawn, if the pixmap itself suits the painter's
- * device and zoom, or has no finer drawing.
+ * Draws the finer drawing of `pixmap` in place of it, with its corner at `topLeft` in the painter's
+ * coordinates. Returns false and draws nothing if the pixmap itself suits the painter's device and
+ * zoom, or has no finer drawing.
  */
 bool paint(QPainter &painter, const QPixmap &pixmap, QPointF topLeft);
 } // namespace GlyphDrawings

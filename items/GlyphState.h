@@ -5,7 +5,7 @@
 class LineReader;
 class TonquillBitmap;
 
-/** A note, rest, clef or another glyph. */
+/** The state of a glyph: a note, rest, clef or other symbol. */
 struct GlyphState
 {
     QPointF position;
@@ -16,7 +16,7 @@ struct GlyphState
     static GlyphState of(const TonquillBitmap &item);
     static GlyphState read(LineReader &line);
 
-    /** What stands behind the keyword of a record of the host link; nothing if it lacks a field. */
+    /** Reads the fields after the keyword of a host's record; nullopt if one is missing. */
     static std::optional<GlyphState> ofRecord(QStringView fields);
 
     static QStringList fieldNames() { return {QStringLiteral("inverted")}; }
@@ -28,7 +28,7 @@ struct GlyphState
     QGraphicsItem *build(const SymbolSource &symbols, bool adding = false) const;
 
     /**
-     * A new glyph of a symbol, with what the right button shows instead of it or without. An id
+     * A new glyph of a symbol, with or without its upside-down form for the right button. An id
      * without a picture makes an item without one. The caller owns it.
      */
     static TonquillBitmap *makeGlyph(const SymbolSource &symbols, int id, bool adding,

@@ -8,7 +8,7 @@
 
 namespace
 {
-/** The steps along a slanting edge are a pixel high; what departs by less is taken for straight. */
+/** Slanted edges have steps of one pixel; smaller deviations count as straight. */
 constexpr qreal straightness = 0.75;
 
 qreal distance(QPointF point, QPointF begin, QPointF end)
@@ -20,7 +20,7 @@ qreal distance(QPointF point, QPointF begin, QPointF end)
                       : std::hypot(aside.x(), aside.y());
 }
 
-/** Appends the corners from `first` up to, but without, `last` that the edge cannot do without. */
+/** Appends the necessary corners from `first` up to, but not including, `last`. */
 void appendCorners(QPolygonF &corners, const QPolygonF &edge, qsizetype first, qsizetype last)
 {
     qsizetype farthest = first;
@@ -40,7 +40,7 @@ void appendCorners(QPolygonF &corners, const QPolygonF &edge, qsizetype first, q
     appendCorners(corners, edge, farthest, last);
 }
 
-/** A closed outline without the steps of its pixels. */
+/** The closed outline without the pixel steps. */
 QPolygonF smoothed(const QPolygonF &edge)
 {
     QPolygonF corners;
@@ -48,7 +48,7 @@ QPolygonF smoothed(const QPolygonF &edge)
     return corners;
 }
 
-/** The rows' runs of ink, joined. */
+/** The union of the runs of ink in all rows. */
 QRegion regionOf(const QImage &drawing)
 {
     constexpr int half = 128;

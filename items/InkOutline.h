@@ -3,9 +3,9 @@
 #include <QImage>
 #include <QPainterPath>
 
-/** Drawings as outlines, which can be filled at any size. */
+/** Converts drawings to outlines, which can be filled at any size. */
 namespace InkOutline
 {
-/** The outline of what is at least half covered, in the drawing's pixels. To be filled odd-even. */
+/** The outline of all pixels with at least half coverage, in pixels, for odd-even filling. */
 QPainterPath of(const QImage &drawing);
 } // namespace InkOutline

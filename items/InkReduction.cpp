@@ -6,7 +6,10 @@
 
 namespace
 {
-/** Which two neighbouring rows or columns one of the drawing's falls into, and how much of it. */
+/**
+ * The two adjacent result rows or columns that one of the drawing falls into, and its share in
+ * each.
+ */
 struct Share
 {
     std::size_t first;
@@ -29,13 +32,13 @@ std::vector<Share> sharesOf(int count, double scale, double phase)
     return shares;
 }
 
-/** As many rows or columns as the shares fall into. */
+/** The number of rows or columns of the result. */
 std::size_t extentOf(const std::vector<Share> &shares)
 {
     return shares.empty() ? 0 : shares.back().first + 2;
 }
 
-/** How much ink lies on each pixel of the smaller drawing, 255 being all of it. */
+/** The amount of ink on each pixel of the result; 255 is full coverage. */
 std::vector<float> inkOn(const QImage &drawing, const std::vector<Share> &columns,
                          const std::vector<Share> &rows)
 {
@@ -71,7 +74,8 @@ QImage InkReduction::reduced(const QImage &drawing, QSizeF scale, QPointF phase)
     QImage result(static_cast<int>(extentOf(columns)), static_cast<int>(extentOf(rows)),
                   QImage::Format_ARGB32_Premultiplied);
     const float *from = ink.data();
-    // What one pixel loses by rounding the next one gets: much ink may lie thinly on many pixels.
+    // Rounding errors are carried to the next pixel: much ink may be spread thinly over many
+    // pixels.
     float left = 0;
     for (int y = 0; y < result.height(); ++y) {
         QRgb *target = reinterpret_cast<QRgb *>(result.scanLine(y));

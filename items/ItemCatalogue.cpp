@@ -46,7 +46,8 @@ const ItemKind *ItemCatalogue::ofLine(QByteArrayView keyword) const
 
 const ItemKind *ItemCatalogue::ofItem(const QGraphicsItem &item) const
 {
-    // The number first: it tells nearly all kinds apart, and is asked of every item.
+    // Compare the type number first: this runs for every item, and the number decides for nearly
+    // all.
     const int type = item.type();
     return firstOf(m_kinds, [&item, type](const ItemKind &kind) {
         return kind.type == type && kind.isOfClass(item);

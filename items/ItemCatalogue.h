@@ -4,17 +4,17 @@
 
 #include <list>
 
-/** The kinds of items that a document may have, a row for each. */
+/** The kinds of items that a document may contain, one row each. */
 class ItemCatalogue
 {
 public:
-    /** Adds a kind, whose keywords and class no other one has. */
+    /** Adds a kind; its keywords and class must not be in use by another kind. */
     void add(const ItemKind &kind);
 
-    /** All rows, in the order in which they were added. They stay where they are. */
+    /** All rows in the order of their addition. Their addresses are stable. */
     const std::list<ItemKind> &kinds() const { return m_kinds; }
 
-    // The row of a kind; null if there is none.
+    // The row of a kind, owned by the catalogue; null if there is none.
 
     const ItemKind *ofRecord(QStringView keyword) const;
     const ItemKind *ofLine(QStringView keyword) const;
@@ -22,9 +22,8 @@ public:
     const ItemKind *ofItem(const QGraphicsItem &item) const;
 
     /**
-     * Reads a line of a file; nothing if its keyword is unknown or a field is missing or
-     * malformed. Fields that are not known, and so not part of the item, are added to `unknown`: a
-     * name, or the value of one without a name.
+     * Reads a line of a file; nullopt if its keyword is unknown or a field is missing or malformed.
+     * Unknown fields are ignored and added to `unknown`: the name, or the value of an unnamed one.
      */
     std::optional<ItemState> readLine(const QString &line, QStringList *unknown = nullptr) const;
 

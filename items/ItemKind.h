@@ -11,78 +11,83 @@
 
 class QGraphicsScene;
 
-/** An item that was built from a record, which the caller owns, and where the record wants it. */
+/** An item built from a record and its position. The caller owns the item. */
 struct RecordedItem
 {
-    QGraphicsItem *item = nullptr; ///< null if the record lacks something
+    QGraphicsItem *item = nullptr; ///< null if the record is incomplete
     QPointF position;              ///< scene units
 };
 
-/** A kind of item: all that the program knows of it beside its class. */
+/** A kind of item: everything about it that is not in its class. */
 struct ItemKind
 {
-    /** The first word of its records, and of the item's data under ItemData::keyword. */
+    /** The first word of its records, which items also have as data under ItemData::keyword. */
     QString keyword;
 
-    /** Builds an item from what stands behind the keyword and the blank of a record. */
+    /** Builds an item from the fields after the keyword of a record. */
     RecordedItem (*readRecord)(QStringView fields, bool adding,
                                const SymbolSource &symbols) = nullptr;
 
     /**
-     * The item that such a record stands for where a host has stored it; null for a kind whose
-     * stored records are understood in another way, or that no host knows.
+     * The state of a record in a host's document; null for kinds whose stored records are read in
+     * another way or that hosts do not know.
      */
     std::optional<ItemState> (*stateOfRecord)(QStringView fields) = nullptr;
 
-    /** A new item that waits to be placed; null for kinds that cannot be made without a choice. */
+    /**
+     * Makes a new item that waits to be placed, owned by the caller; null for kinds that need a
+     * choice.
+     */
     QGraphicsItem *(*makeNew)() = nullptr;
 
-    /** Called with an item that the program has made and added to a scene of the document. */
+    /** Called after an item was created and added to a document's scene. */
     void (*joinScene)(QGraphicsItem &item, QGraphicsScene &scene) = nullptr;
 
-    /** A host's documents may hold it. Others are built where the user copies, undoes and opens. */
+    /**
+     * True if documents of a host may contain it. Others are only built by paste, undo and open.
+     */
     bool isHostKind = true;
 
-    /** Where a record is to be built beside its position, it is put this often as far away. */
+    /** Multiplies the offset of items that are built beside their position. */
     int offsetTimes = 1;
 
-    /** Before an item is built from a record, one that waits to be placed is dropped. */
+    /** Building an item from a record drops the one that waits to be placed. */
     bool dropsWaitingItem = false;
 
-    /** Shows text that a person may make as large as wanted. */
+    /** Shows text of unlimited size. */
     bool hasText = false;
 
-    /** A line of such an item, as any other. */
+    /** An example of its line in a file. */
     QString example;
 
-    /** The first word of its lines in files, if it is another one. */
+    /** The first word of its lines in files, if it is not `keyword`. */
     QString lineKeyword = QString();
 
-    /** Reads a line, which says itself whether it is valid. */
+    /** Reads a line; LineReader::isValid() tells whether it was valid. */
     ItemState (*readLine)(LineReader &line) = nullptr;
 
-    // What itemKind() fills in from the two classes.
+    // The following members are filled in by itemKind().
 
-    /** QGraphicsItem::type() of its items, which items of other programs may have as well. */
+    /** QGraphicsItem::type() of its items; items of embedding programs may have the same. */
     int type = 0;
 
     /** True for an item of the class. */
     bool (*isOfClass)(const QGraphicsItem &item) = nullptr;
 
-    /** The state of an item of the class; nothing while it waits to be placed. */
+    /** The state of an item of the class; nullopt while it waits to be placed. */
     std::optional<ItemState> (*stateOf)(const QGraphicsItem &item) = nullptr;
 
-    qsizetype plainFields = 0; ///< of a line, with the keyword
+    qsizetype plainFields = 0; ///< in a line, including the keyword
     QStringList fieldNames = QStringList();
 };
 
-/** What a row has of its classes. */
+/** The functions of a row that follow from its classes. */
 namespace ItemKindParts
 {
 template <typename Item>
 bool isOfClass(const QGraphicsItem &item)
 {
-    // The exact class is told at once; the cast takes as long as writing a line.
+    // Comparing the exact class is fast; the cast takes as long as writing a line.
     return typeid(item) == typeid(Item) || dynamic_cast<const Item *>(&item) != nullptr;
 }
 
@@ -103,9 +108,9 @@ ItemState readLine(LineReader &line)
 } // namespace ItemKindParts
 
 /**
- * The row of a class of items and of the structure that is its state. Beside what ItemState needs,
- * the structure has of(const Item &), plainFields and fieldNames(), and read(LineReader &) unless
- * the row says how lines are read.
+ * Completes the row of a class of items and the structure of its state. In addition to what
+ * ItemState requires, the structure has of(const Item &), plainFields, fieldNames(), and
+ * read(LineReader &) unless the row sets readLine.
  */
 template <typename Item, typename State>
 ItemKind itemKind(ItemKind row)

@@ -9,8 +9,8 @@ QObject *ItemReference::objectOf(QGraphicsItem *item)
 {
     if (!item)
         return nullptr;
-    // Nearly all items are glyphs and frames. Their exact class is told at once; the cast from one
-    // base class to another takes as long as writing the glyph's record.
+    // Nearly all items are glyphs and frames. Comparing their exact class is fast; the cast between
+    // base classes takes as long as writing the glyph's record.
     const std::type_info &itemClass = typeid(*item);
     if (itemClass == typeid(SelectionFrame))
         return nullptr;

@@ -5,10 +5,9 @@
 #include <QPointer>
 
 /**
- * A reference to an item that may be deleted or taken off its scene at any time, by anybody.
- * It never yields a dangling pointer: get() is null once the item is gone. All items of the
- * document are QObjects, which are watched; a plain item of an embedding program cannot be, and
- * is looked up among the scene's items whenever it is asked for.
+ * A reference to an item that may be deleted or removed from its scene at any time. It never yields
+ * a dangling pointer: get() is null once the item is gone. Items of the document are QObjects and
+ * tracked as such; a plain item of an embedding program is searched for in the scene at each call.
  */
 class ItemReference
 {
@@ -20,7 +19,7 @@ public:
         , m_isWatched(m_object != nullptr)
     {}
 
-    /** The item if it is alive and stands on `scene`, else null. */
+    /** The item if it still exists and is on `scene`, else null. */
     QGraphicsItem *get(const QGraphicsScene *scene) const
     {
         if (m_isWatched)
@@ -28,10 +27,10 @@ public:
         return m_item && scene && scene->items().contains(m_item) ? m_item : nullptr;
     }
 
-    /** The item as a QObject while it is alive, else null. */
+    /** The item as a QObject; null if it was deleted or is not a QObject. */
     QObject *object() const { return m_object; }
 
-    /** An item as the QObject that it also is, or null. */
+    /** The item as a QObject, or null if it is not one. */
     static QObject *objectOf(QGraphicsItem *item);
 
 private:

@@ -6,7 +6,7 @@
 
 namespace
 {
-/** There are few; asked for every item, a cast from one base class to another takes too long. */
+/** There are few scenes; a cast between base classes for every item is too slow. */
 QList<ItemRegistry *> &registries()
 {
     static QList<ItemRegistry *> all;

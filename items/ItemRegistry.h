@@ -3,40 +3,40 @@
 class QGraphicsItem;
 class QGraphicsScene;
 
-/** What became of an item of the document. */
+/** A change of an item of the document. */
 enum class ItemEvent {
-    Awaited,   ///< it is on the scene, on top of all of its height, and waits to be placed
-    Added,     ///< it is on the scene and placed: from now on it is a part of the document
+    Awaited,   ///< it was added to the scene, topmost of its z value, and waits to be placed
+    Added,     ///< it is on the scene and placed, so it is now part of the document
     Removed,   ///< it leaves the scene or is deleted; only its address may be used
-    Moved,     ///< its position is another one
-    Restacked, ///< its height (z) is another one
-    Altered    ///< something else about it is another: shape, text, look
+    Moved,     ///< its position changed
+    Restacked, ///< its z value changed
+    Altered    ///< anything else changed: shape, text, appearance
 };
 
-/** Somebody who wants to know of every change of the document. */
+/** Receives all changes of the document's items. */
 class ItemObserver
 {
 public:
     virtual ~ItemObserver() = default;
 
-    /** Told at once. An item that waits to be placed may be told of, too. */
+    /** Called immediately, possibly also for items that wait to be placed. */
     virtual void itemChanged(QGraphicsItem &item, ItemEvent event) = 0;
 
-    /** If `item` lay above `above`, which is of the same height (z), it lies right below it now. */
+    /** `item` moved directly below `above`, which has the same z value, if it was above it. */
     virtual void itemStackedBelow(QGraphicsItem &item, const QGraphicsItem &above) = 0;
 };
 
-/** A scene's side of what items tell it. */
+/** The interface of a scene that items report to. */
 class ItemRegistry
 {
 public:
-    /** The registry that this scene is, or null. */
+    /** `scene` as a registry, or null if it is not one. */
     static ItemRegistry *of(const QGraphicsScene &scene);
 
-    /** `item` was added while in ItemStatus::Adding. */
+    /** Called when `item` was added while in ItemStatus::Adding. */
     virtual void itemAwaitsPlacing(QGraphicsItem *item) = 0;
 
-    /** Whoever observes the document; null for nobody. Not owned. */
+    /** The observer of the document; not owned, null for none. */
     ItemObserver *observer() const { return m_observer; }
     virtual void setItemObserver(ItemObserver *observer) { m_observer = observer; }
 

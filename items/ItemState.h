@@ -13,13 +13,13 @@
 #include <optional>
 #include <type_traits>
 
-/** The text that an item shows, with all that decides how large it gets. */
+/** The text that an item shows, with everything that determines its size. */
 struct TextContent
 {
     QString text;
     bool isHtml = false;
     FontState font;
-    double width = -1; ///< scene units in which lines are wrapped; negative if none is
+    double width = -1; ///< wrap width in scene units; negative for no wrapping
 };
 
 /**
@@ -51,7 +51,7 @@ public:
     std::optional<TextContent> content() const { return m_value->content(); }
     QByteArray line() const { return m_value->line(); }
 
-    /** A new item at its position, on no scene yet. The caller owns it. */
+    /** A new item at its position, not on a scene. The caller owns it. */
     QGraphicsItem *build(const SymbolSource &symbols) const
     {
         QGraphicsItem *item = m_value->build(symbols);

@@ -15,7 +15,7 @@ namespace
 constexpr qreal screenDotsPerInch = 96.0;
 constexpr qreal pointsPerInch = 72.0;
 
-/** 1/96 inch in scene units, between those across and those down. */
+/** 1/96 inch in scene units, an average of horizontal and vertical ones. */
 constexpr qreal lineInDrawing = 0.93;
 
 PaperPainting::ScreenLines &screenLines()
@@ -24,7 +24,7 @@ PaperPainting::ScreenLines &screenLines()
     return lines;
 }
 
-/** In device pixels; 0 stands for one pixel, which is drawn more quickly. */
+/** In device pixels; 0 is a cosmetic pixel, which is drawn faster. */
 qreal lineOnScreen(const QPainter &painter)
 {
     if (screenLines() == PaperPainting::ScreenLines::OnePixel)
@@ -34,7 +34,7 @@ qreal lineOnScreen(const QPainter &painter)
     return width > 1 ? width : 0;
 }
 
-/** True for a picture with more dots to the inch than a screen has. */
+/** True for a picture of higher resolution than a screen. */
 bool isFinePicture(const QPainter &painter)
 {
     const int kind = painter.device()->devType();
@@ -45,7 +45,7 @@ bool isFinePicture(const QPainter &painter)
 
 bool PaperPainting::isPrinter(const QPainter &painter)
 {
-    // Asked for every item that is painted, so not by a dynamic_cast.
+    // Called for every painted item, so without a dynamic_cast.
     return painter.device() && painter.device()->devType() == QInternal::Printer;
 }
 
@@ -65,7 +65,7 @@ void PaperPainting::setScreenLines(ScreenLines lines)
 
 QPen PaperPainting::linePen(const QPainter &painter, const QColor &color)
 {
-    // A drawing is scaled by whoever shows it, and its lines with it.
+    // An SVG is scaled by its viewer, lines included.
     if (painter.paintEngine()->type() == QPaintEngine::SVG)
         return QPen(color, lineInDrawing);
     const bool isFine = isPrinter(painter) || isFinePicture(painter);
@@ -79,7 +79,7 @@ QRectF PaperPainting::visibleRect(const QPainter &painter)
 {
     const QPaintDevice &device = *painter.device();
     const QSizeF size = QSizeF(device.width(), device.height()) * device.devicePixelRatioF();
-    // A sheet begins at its margins, in which something may be seen as well.
+    // The origin is at the margins, where items may also be visible.
     const QRectF withMargins =
         QRectF(QPointF(0, 0), size)
             .adjusted(-size.width(), -size.height(), size.width(), size.height());
@@ -102,7 +102,7 @@ void PaperPainting::drawText(QPainter *painter, const QGraphicsTextItem &item,
     context.palette.setColor(QPalette::Text, item.defaultTextColor());
     context.clip = exposed;
     painter->save();
-    // Nothing lies within a rectangle whose corners are crossed, yet the screen shows such a text.
+    // A rectangle with swapped corners would clip everything, but on screen such a text is visible.
     if (exposed.isValid())
         painter->setClipRect(exposed, Qt::IntersectClip);
     const std::unique_ptr<QTextDocument> copy = DrawingText::isNeeded(*painter, *item.document())

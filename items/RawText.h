@@ -2,7 +2,7 @@
 
 #include <QTextDocument>
 
-/** The text with every character that was typed; toPlainText() would make blanks of some. */
+/** The text with all characters as typed; toPlainText() replaces some with spaces. */
 inline QString rawText(const QTextDocument &document)
 {
     return document.toRawText().replace(QChar::ParagraphSeparator, QChar::LineFeed);

@@ -20,8 +20,8 @@ QRectF anchorSquare(QPointF anchor)
 SelectionFrame::SelectionFrame(QGraphicsItem *parent)
     : QGraphicsItem(parent)
 {
-    // The scene hands presses on the frame to the parent item itself. Where it lets Qt
-    // deliver one, to a text that is being edited, the frame must not stand in the way.
+    // The scene forwards presses on the frame to the parent item. When Qt delivers one to a text
+    // that is being edited, the frame must not intercept it.
     setAcceptedMouseButtons(Qt::NoButton);
 }
 

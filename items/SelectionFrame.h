@@ -5,11 +5,11 @@
 #include <QVarLengthArray>
 
 /**
- * The anchors of one document item, held by that item as a member and shown as its child.
+ * The anchors of one document item: a member of that item and its child on the scene.
  *
  * All points are in the parent item's coordinates. While the parent is selected each anchor is
- * drawn as a green square of 10 by 10; nothing is ever drawn on paper. The scene finds the item
- * under the pointer by this frame, which reaches 5 beyond the parent's bounds on every side.
+ * drawn as a green square of 10 by 10, but never on paper. The scene finds the item under the
+ * pointer by this frame, which extends 5 beyond the parent's bounds on every side.
  */
 class SelectionFrame : public QGraphicsItem
 {
@@ -31,16 +31,19 @@ public:
     void setAnchor(int index, QPointF point);
 
     /**
-     * The index of the first anchor whose square, edges included, contains `point`; the anchor
-     * itself goes to `anchor`. Where squares overlap the lowest index wins. Without a hit the
-     * answer is -1 and `anchor` stays as it is.
+     * Returns the index of the first anchor whose square, edges included, contains `point`, and
+     * stores its position in `anchor`. If squares overlap the lowest index wins. Without a hit,
+     * returns -1 and leaves `anchor` unchanged.
      */
     int getAnchor(QPointF point, QPointF &anchor) const;
 
     /** True if any anchor's square contains `point`. */
     bool isAnchor(QPointF point) const;
 
-    /** To be called by the parent before its bounds change, for the frame's change with them. */
+    /**
+     * To be called by the parent before its bounds change, because the frame's bounds depend on
+     * them.
+     */
     void parentBoundsAboutToChange();
 
     QRectF boundingRect() const override;
@@ -50,10 +53,10 @@ public:
 protected:
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
-    /** The name is intentional: releases keep Qt's own handling. */
+    /** The misspelt name is intentional: it does not override Qt's handling of releases. */
     void mouseRelaseEvent(QGraphicsSceneMouseEvent *event);
 
 private:
-    /** Kept within the frame: no item has more than two, and there are as many frames as items. */
+    /** Stored inline: no item has more than two anchors, and there are as many frames as items. */
     QVarLengthArray<QPointF, 2> m_anchors;
 };

@@ -5,9 +5,9 @@
 #include <QTextDocument>
 
 /**
- * The text of a block. It may be formatted, come from a stranger's document, and name a picture or
- * a style sheet: no file of this machine is opened for that, which might also be a device without
- * an end. Only what the text itself contains is shown.
+ * The text of a block. It may be formatted, come from an untrusted document, and refer to pictures
+ * or style sheets: only those that the text itself contains are shown. Local files, which might be
+ * endless devices, are never opened.
  */
 class SelfContainedText : public QTextDocument
 {

@@ -2,12 +2,12 @@
 
 #include <QPixmap>
 
-/** Where the pictures of symbols come from. */
+/** Provides the pictures of symbols. */
 class SymbolSource
 {
 public:
     virtual ~SymbolSource() = default;
 
-    /** The picture of a symbol; null if there is none of this id. */
+    /** The picture of a symbol; a null pixmap if this id has none. */
     virtual QPixmap symbolPicture(int id) const = 0;
 };

@@ -9,11 +9,11 @@
 
 namespace
 {
-// Pixels: spaces of 8, the line that closes them, and a white row above and below.
+// Pixels: spaces of 8, the closing line, and a white row above and below.
 constexpr int halfStaff = 2 * 8 + 1 + 2;
 constexpr int wholeStaff = 4 * 8 + 1 + 2;
 
-/** A row whose pictures are among the resources. */
+/** A row with its pictures from the resources. */
 Symbol drawn(int id, const char *name, std::optional<int> upsideDown, SymbolSize size,
              const char *sense = nullptr)
 {
@@ -33,12 +33,12 @@ namespace SymbolTable
 {
 namespace
 {
-/** Marks a sense for translation; scripts/translate knows it, and takes its context from here. */
+/** Marks a sense for translation; scripts/translate extracts it with this context. */
 #define NAME(text) QT_TRANSLATE_NOOP("SymbolTable", text)
 
 /**
- * Of the first 37 symbols each goes with the one of the next id, intentionally also a rest with the
- * note of the next shorter value: documents that say "inverted" show that.
+ * Each of the first 37 symbols is paired with the next id. Intentionally, a rest is also paired
+ * with the note of the next shorter value: documents with inverted rests show that.
  */
 QList<Symbol> builtInRows()
 {
@@ -124,7 +124,7 @@ std::optional<int> SymbolTable::upsideDownOf(int id)
 {
     if (const Symbol *symbol = find(id))
         return symbol->upsideDown;
-    // No id follows the largest int.
+    // The largest int has no next id.
     return id < std::numeric_limits<int>::max() ? std::optional(id + 1) : std::nullopt;
 }
 

@@ -9,26 +9,28 @@
 #include <map>
 #include <optional>
 
-/** How high a symbol's drawing is meant to be beside a staff of five lines. */
+/** The intended height of a symbol's drawing compared to a staff of five lines. */
 enum class SymbolSize {
-    Small,       ///< at most half of it: dots, whole notes, most rests
-    WithinStaff, ///< at most all of it: accidentals, repeats, notes with a stem
+    Small,       ///< at most half of the staff: dots, whole notes, most rests
+    WithinStaff, ///< at most the staff: accidentals, repeats, notes with a stem
     Tall         ///< higher: clefs, notes and rests with many flags
 };
 
-/** One symbol: a drawing that is laid on the page as a glyph, and all that is known of it. */
+/** One symbol: a drawing that is placed on the page as a glyph, and its properties. */
 struct Symbol
 {
     int id = -1;
     const char *name = "";    ///< of its drawing
-    QString picture = {};     ///< the path of the drawing, black on white, 8 pixels a staff space
-    QString finePicture = {}; ///< of the same, 64 pixels a space; empty if there is none
-    /** The symbol that the right button shows instead while the glyph waits to be placed. */
+    QString picture = {};     ///< path of the drawing, black on white, 8 pixels per staff space
+    QString finePicture = {}; ///< the same with 64 pixels per space; empty if there is none
+    /**
+     * The id of the symbol that the right button switches to while the glyph waits to be placed.
+     */
     std::optional<int> upsideDown = {};
-    /** What it stands for, for tips and screen readers, untranslated; null if nothing offers it. */
+    /** Its meaning for tool tips and screen readers, untranslated; null if no control offers it. */
     const char *sense = nullptr;
     SymbolSize size = SymbolSize::WithinStaff;
-    /** Where the glyph's position lies, in pixels from the picture's corner; else in its middle. */
+    /** The reference point in pixels from the picture's top-left corner; by default its centre. */
     std::optional<QPoint> reference = {};
 
     /** The sense in the user's language; empty if there is none. */
@@ -36,8 +38,8 @@ struct Symbol
 };
 
 /**
- * The symbols by their ids, which stand in documents. Each note value from the whole to the 128th
- * has three ids in a row: the note, the note with its stem down, the rest.
+ * The symbols by their ids, which documents store. Each note value from the whole to the 128th has
+ * three consecutive ids: the note, the note with its stem down, the rest.
  */
 namespace SymbolTable
 {
@@ -57,7 +59,7 @@ inline constexpr int pedalUp = 12;
 inline constexpr int firstNote = 13;
 inline constexpr int noteValues = 8;
 
-/** The ids of a note value's drawings; `value` counts from 0 (whole) to 7 (128th). */
+/** The ids of a note value's drawings; `value` is 0 (whole) to 7 (128th). */
 constexpr int note(int value)
 {
     return firstNote + 3 * value;
@@ -71,43 +73,43 @@ constexpr int rest(int value)
     return note(value) + 2;
 }
 
-/** True for a note in its first form. */
+/** True for a note with its stem up. */
 constexpr bool isNote(int id)
 {
     return id >= firstNote && id < note(noteValues) && (id - firstNote) % 3 == 0;
 }
 
-/** All symbols; rows stay where they are in memory. */
+/** All symbols. The addresses of rows are stable. */
 const std::map<int, Symbol> &rows();
 
-/** The row of an id, or null. */
+/** The row of an id, owned by the table; null if there is none. */
 const Symbol *find(int id);
 
 /**
- * Adds a symbol while the program runs; windows have its picture once they construct their symbols.
- * False, with nothing added, if its id is negative or taken.
+ * Adds a symbol at run time; windows load its picture when they construct their symbols. Returns
+ * false and adds nothing if the id is negative or already used.
  */
 bool add(const Symbol &row);
 
 /**
- * The id of what the right button shows instead of a symbol, or none. An id without a row, whose
- * picture comes from an embedding program, goes with the next one.
+ * The id of a symbol's upside-down form; nullopt if it has none. An id without a row, whose picture
+ * comes from an embedding program, is paired with the next id.
  */
 std::optional<int> upsideDownOf(int id);
 
 /**
- * Where a glyph's position lies, in pixels from its picture's top-left corner. `picture` is the
- * size of the symbol's own picture; upside down, it lies at the same point unless that form's row
- * says another.
+ * The reference point of a glyph, in pixels from its picture's top-left corner. `picture` is the
+ * size of the symbol's own picture. Upside down it is the same point, unless the row of that form
+ * has its own.
  */
 QPoint referencePoint(int id, const QSize &picture, bool upsideDown = false);
 
-/** The size that a picture of this height is of. */
+/** The size class of a picture of this height. */
 SymbolSize sizeOf(const QSize &picture);
 
 /**
- * The pictures of all symbols. Their finer drawings are made known to GlyphDrawings. What does not
- * have the size of its row, because it was drawn at another scale or is missing, is logged.
+ * Loads the pictures of all symbols and registers their finer drawings with GlyphDrawings. Logs
+ * pictures that are missing or do not have the size of their row.
  */
 QHash<int, QPixmap> load();
 } // namespace SymbolTable

@@ -11,7 +11,7 @@
 
 namespace
 {
-/** True if a part of the text looks different from the rest, as after pasting from elsewhere. */
+/** True if parts of the text are formatted differently, for example after pasting. */
 bool hasFormats(const QTextDocument &document)
 {
     if (!document.rootFrame()->childFrames().isEmpty())
@@ -83,7 +83,7 @@ QByteArray TextBlockState::line() const
 
 QGraphicsItem *TextBlockState::build(const SymbolSource &) const
 {
-    // A blank, because a block made without any text would show how to use it.
+    // A space, because a block without text would show its instructions.
     auto *item = new TonquillTextBlock(false, QStringLiteral(" "), QRectF());
     item->setFont(font.toFont());
     if (isHtml)

@@ -5,7 +5,7 @@
 class LineReader;
 class TonquillTextBlock;
 
-/** A text block. */
+/** The state of a text block. */
 struct TextBlockState
 {
     QPointF position;
@@ -17,13 +17,13 @@ struct TextBlockState
     bool isHtml = false; ///< `text` is HTML: formatted text was pasted into the block
     bool operator==(const TextBlockState &) const = default;
 
-    /** What begins its line, which has no end mark as its record has. */
+    /** The first word of its line, which has no end mark, unlike its record. */
     static QString lineKeyword() { return QStringLiteral("tonquill_textblock"); }
 
     static TextBlockState of(const TonquillTextBlock &item);
     static TextBlockState read(LineReader &line);
 
-    /** What stands behind the keyword of a record of the host link; nothing if it lacks a field. */
+    /** Reads the fields after the keyword of a host's record; nullopt if one is missing. */
     static std::optional<TextBlockState> ofRecord(QStringView fields);
 
     static QStringList fieldNames();

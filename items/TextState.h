@@ -7,7 +7,7 @@
 class LineReader;
 class TonquillText;
 
-/** A simple text. */
+/** The state of a simple text. */
 struct TextState
 {
     QPointF position;

@@ -5,7 +5,7 @@
 class LineReader;
 class TonquillTimeSig;
 
-/** A time signature. */
+/** The state of a time signature. */
 struct TimeSignatureState
 {
     QPointF position;
@@ -16,7 +16,7 @@ struct TimeSignatureState
     static TimeSignatureState of(const TonquillTimeSig &item);
     static TimeSignatureState read(LineReader &line);
 
-    /** What stands behind the keyword of a record of the host link; nothing if it lacks a field. */
+    /** Reads the fields after the keyword of a host's record; nullopt if one is missing. */
     static std::optional<TimeSignatureState> ofRecord(QStringView fields);
 
     static QStringList fieldNames() { return {}; }

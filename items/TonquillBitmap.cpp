@@ -47,7 +47,7 @@ QString TonquillBitmap::getParamStr()
 void TonquillBitmap::paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
                            QWidget *widget)
 {
-    // Only for paper is the option copied, which costs as much as drawing the glyph.
+    // Copy the option only for paper: it takes as long as drawing the glyph.
     if (PaperPainting::isPrinter(*painter))
         paintWith(painter, PaperPainting::optionFor(*painter, *option), widget);
     else
@@ -85,8 +85,8 @@ void TonquillBitmap::mousePressEvent(QGraphicsSceneMouseEvent *event)
 void TonquillBitmap::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
 {
     release(*event);
-    // A glyph that the left button placed meanwhile keeps its inverted form: that is how an
-    // inverted glyph is placed.
+    // A glyph that the left button placed in the meantime stays inverted: this is how inverted
+    // glyphs are placed.
     const bool rightAlone =
         event->button() == Qt::RightButton && !(event->buttons() & Qt::LeftButton);
     if (rightAlone && canInvertNow())

@@ -8,8 +8,8 @@
 
 /**
  * A glyph that the palette places as a picture: a note, rest, clef, accidental, repeat sign or
- * pedal mark. It shows the normal or the inverted pixmap, whose symbol's reference point is its
- * position, in general their middle, and can be moved but not resized.
+ * pedal mark. It shows the normal or the inverted pixmap and can be moved but not resized. Its
+ * position is the symbol's reference point, usually the centre of the pixmap.
  */
 class TonquillBitmap : public QObject, public DocumentItemOf<QGraphicsPixmapItem>
 {
@@ -21,13 +21,13 @@ public:
 
     /**
      * A glyph of `symbolId`. With `adding` it follows the pointer until it is placed. A null
-     * `invertedPixmap` makes a glyph that the right button cannot invert; a null `pixmap` makes
-     * one without a picture, whose record is written all the same.
+     * `invertedPixmap` makes a glyph that the right button cannot invert; a null `pixmap` makes one
+     * without a picture, whose record is still written.
      */
     TonquillBitmap(const QPixmap &pixmap, int symbolId, bool adding, QPixmap invertedPixmap,
                    QGraphicsItem *parent = nullptr);
 
-    /** Shows the inverted pixmap or the normal one. Callers check that there is an inverted one. */
+    /** Shows the inverted or the normal pixmap. Callers check that there is an inverted one. */
     void setInverted(bool inverted);
     bool isInverted() const { return m_inverted; }
 
@@ -39,7 +39,7 @@ public Q_SLOTS:
     QString getParamStr();
 
 Q_SIGNALS:
-    /** Declared for hosts of the item; nothing emits it. */
+    /** Declared for embedding programs; never emitted. */
     void itemChanged(QString record);
 
 protected:
@@ -52,5 +52,5 @@ private:
     void paintWith(QPainter *painter, const QStyleOptionGraphicsItem &option, QWidget *widget);
 
     bool m_inverted = false;
-    QPixmap m_otherPixmap; ///< the one that is not shown: the inverted one or the normal one
+    QPixmap m_otherPixmap; ///< the hidden one: inverted or normal
 };

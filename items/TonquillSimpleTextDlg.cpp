@@ -98,6 +98,6 @@ void TonquillSimpleTextDlg::on_pb_cancel_clicked()
 
 void TonquillSimpleTextDlg::on_pb_color_clicked()
 {
-    // Always opens on black, and a cancelled choice is kept as the invalid colour that it is.
+    // Intentional: always starts with black, and cancelling stores the invalid colour.
     setDefaultTextColor(QColorDialog::getColor(Qt::black, this, QStringLiteral("Select Color")));
 }

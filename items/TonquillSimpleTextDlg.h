@@ -15,25 +15,24 @@ public:
     explicit TonquillSimpleTextDlg(QWidget *parent = nullptr);
     ~TonquillSimpleTextDlg() override;
 
-    /** Shows what `item` has. */
+    /** Fills the controls from `item`. */
     void fillFrom(const TonquillText &item);
 
-    /** Gives `item` the font, text and colour shown here; its angle is the caller's. */
+    /** Sets the font, text and colour of `item`; the caller sets its angle. */
     void applyTo(TonquillText &item) const;
 
     void setPlainText(QString text);
     QString text() const;
 
     void setDefaultTextColor(QColor color);
-    /** Invalid after a cancelled choice of colour; a text then counts as black. */
+    /** Invalid after a cancelled colour dialog; the text is then black. */
     QColor color() const { return m_color; }
 
     void setAngle(float degrees);
     /** Whole degrees. */
     int angle() const;
 
-    /** Selects the family if it is one of the five; the style and the size are shown as they are.
-     */
+    /** Selects the family if it is one of the five, and shows the style and the size. */
     void setFont(QFont font);
     QFont textFont() const;
 

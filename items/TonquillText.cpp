@@ -61,8 +61,8 @@ const PointerManners &TonquillText::manners() const
 void TonquillText::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
     press(*event);
-    // Last, for the menu that answers runs until it is closed, and a document that arrives
-    // meanwhile takes this item away.
+    // Last, because the menu blocks until it is closed, and a document that arrives in the meantime
+    // deletes this item.
     if (ItemModel::onlyRightButtonHeld(*event))
         Q_EMIT showTextItemMenu(this);
 }

@@ -7,9 +7,9 @@
 class TonquillSimpleTextDlg;
 
 /**
- * A one-line label in one font and colour, turned by an angle: a title, a tempo word, a syllable.
- * It is never edited in place; a right press asks for its context menu, and its content and look
- * are changed in the TonquillSimpleTextDlg.
+ * A one-line label in one font and colour, rotated by an angle: a title, a tempo marking, a
+ * syllable. It is never edited in place; a right press requests its context menu, and the
+ * TonquillSimpleTextDlg changes its content and appearance.
  */
 class TonquillText : public DocumentItemOf<QGraphicsTextItem>
 {
@@ -19,16 +19,16 @@ class TonquillText : public DocumentItemOf<QGraphicsTextItem>
 public:
     enum { Type = UserType + 1 };
 
-    /** An empty text, selected either way; with `adding` it follows the pointer. */
+    /** An empty text, always selected; with `adding` it follows the pointer. */
     explicit TonquillText(bool adding, QGraphicsItem *parent = nullptr);
 
-    /** Adds the anchor, at the bottom-left corner. To be called once text and font are set. */
+    /** Adds the anchor at the bottom-left corner. To be called once the text and font are set. */
     void updateFrame();
 
-    /** Moves the anchor to the bottom-left corner, after text or font were changed. */
+    /** Moves the anchor to the bottom-left corner after a change of text or font. */
     void moveAnchorToCorner();
 
-    /** As Qt's own, which tells nobody of it. */
+    /** Like Qt's function, which does not announce the change. */
     void setDefaultTextColor(const QColor &color);
 
     int type() const override { return Type; }

@@ -40,11 +40,11 @@ TonquillTextBlock::TonquillTextBlock(bool adding, const QString &text, const QRe
     setDocument(new SelfContainedText(this));
     announceChangesOf(*document());
     if (defaultTextColor() != Qt::black)
-        setDefaultTextColor(Qt::black); // on a dark desktop it would be that of the windows
+        setDefaultTextColor(Qt::black); // the palette's colour may be white on a dark desktop
 
     if (!text.isEmpty() || rect.width() != 0.0 || rect.height() != 0.0) {
         fitTo(rect.size());
-        setPlainText(text); // into its width at once: laying text out is what costs most here
+        setPlainText(text); // after the width is set: layout is the slowest part
     } else {
         setPlainText(placeholder());
         fitTo(document()->size());
@@ -62,7 +62,9 @@ void TonquillTextBlock::fitTo(QSizeF textSize)
     fitTextToWidth();
 }
 
-/** The menu runs until it is closed; a document that arrives meanwhile takes this block away. */
+/**
+ * The menu blocks until it is closed; a document that arrives in the meantime deletes this block.
+ */
 void TonquillTextBlock::openSizeMenu()
 {
     if (!m_sizeMenu) {
@@ -80,7 +82,7 @@ bool TonquillTextBlock::isEdited(const QGraphicsTextItem &item)
     return (item.textInteractionFlags() & Qt::TextEditorInteraction) != 0;
 }
 
-/** True while all of text editing is on, as a double click leaves it. */
+/** True while all flags of text editing are on, as after a double click. */
 bool TonquillTextBlock::isInEditor() const
 {
     return textInteractionFlags() == Qt::TextEditorInteraction;
@@ -153,7 +155,7 @@ void TonquillTextBlock::mousePressEvent(QGraphicsSceneMouseEvent *event)
         press(*event);
 }
 
-/** The top-left anchor moves the block like any other place of it. */
+/** The top-left anchor moves the block like any other point inside. */
 int TonquillTextBlock::resizingAnchorAt(QPointF point) const
 {
     QPointF anchor;
@@ -184,8 +186,8 @@ void TonquillTextBlock::resized()
 }
 
 /**
- * The last steps of a resize. Pending events are handled in between so that a long text keeps up
- * with the pointer; one of them may take this block away.
+ * The last steps of a resize. Pending events are processed in between so that a long text keeps up
+ * with the pointer; one of them may delete this block.
  */
 void TonquillTextBlock::letOthersPaintAndFitText()
 {
@@ -222,7 +224,7 @@ void TonquillTextBlock::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
 
 void TonquillTextBlock::contextMenuEvent(QGraphicsSceneContextMenuEvent *event)
 {
-    // The block's only menu is that of the point sizes, which opens when the button is released.
+    // The only menu is that of point sizes, which opens on release.
     event->accept();
 }
 

@@ -10,8 +10,8 @@ class QMenu;
 
 /**
  * A rectangle of text of several lines: a verse, a note to the player. Its width is set with the
- * mouse, and a double click hands keys and mouse to the text editor until the block loses focus.
- * A right click opens a menu of point sizes.
+ * mouse, and a double click starts text editing until the block loses focus. A right click opens a
+ * menu of point sizes.
  */
 class TonquillTextBlock : public DocumentItemOf<QGraphicsTextItem>
 {
@@ -22,27 +22,27 @@ public:
     enum { Type = UserType + 2 };
 
     /**
-     * Only the width and height of `rect` are used; the caller sets the position. Without text
-     * and size the block shows how to use it, in its natural size.
+     * Only the width and height of `rect` are used; the caller sets the position. Without text and
+     * size the block shows instructions in its natural size.
      */
     TonquillTextBlock(bool adding, const QString &text, const QRectF &rect,
                       QGraphicsItem *parent = nullptr);
     ~TonquillTextBlock() override;
 
-    /** True while any way of selecting or typing text is on. */
+    /** True while any kind of text interaction is enabled. */
     static bool isEdited(const QGraphicsTextItem &item);
 
     int type() const override { return Type; }
 
     /**
-     * The block's own rectangle, not the text's. Its corners are as the pointer left them: pulled
-     * over the top-left one, the bottom-right corner makes width and height negative.
+     * The block's own rectangle, not the text's. Dragging the bottom-right corner beyond the
+     * top-left one makes width and height negative.
      */
     QRectF boundingRect() const override;
     QPointF topLeft() const { return m_topLeft; }
     QPointF bottomRight() const { return m_bottomRight; }
 
-    /** Gives the block this rectangle and its anchors those corners; the text stays as it is. */
+    /** Sets the block's rectangle and its anchors; the text is not changed. */
     void setCorners(QPointF topLeft, QPointF bottomRight);
 
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
@@ -51,10 +51,10 @@ public Q_SLOTS:
     /** The item's record, of several lines. The font is not part of it. */
     QString getParamStr();
 
-    /** Takes the point size that the sending entry of the size menu names. */
+    /** Sets the point size named by the sender, an entry of the size menu. */
     void onFontSizeChange();
 
-    /** Makes the block's rectangle that of its text, and its anchors the corners. */
+    /** Fits the block's rectangle to its text, and moves its anchors to the corners. */
     void updateFrame();
 
 protected:
@@ -81,5 +81,5 @@ private:
 
     QPointF m_topLeft;
     QPointF m_bottomRight;
-    std::unique_ptr<QMenu> m_sizeMenu; ///< made when it is first opened: most never are
+    std::unique_ptr<QMenu> m_sizeMenu; ///< created when first opened, which most never are
 };

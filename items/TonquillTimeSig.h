@@ -23,7 +23,7 @@ public:
 
     int type() const override { return Type; }
 
-    /** 30 by 45 whatever the numbers; wide ones reach out of it. */
+    /** Always 30 by 45 scene units; wide numbers extend beyond it. */
     QRectF boundingRect() const override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
@@ -35,7 +35,7 @@ protected:
     const PointerManners &manners() const override;
 
 private:
-    QFont m_font; ///< bold, 23 points; painting has a font of its own
+    QFont m_font; ///< bold, 23 points; painting uses another font
     int m_numerator;
     int m_denominator;
 };

@@ -5,7 +5,7 @@
 /** The texts of the host link. Messages have no end mark: one write is one message. */
 namespace HostMessages
 {
-/** The local server's name at which a host listens. */
+/** The name of the host's local server. */
 inline const QString serverName = QStringLiteral("trackwrightqt");
 
 inline const QString fromHost = QStringLiteral("tw2tonquill ");
@@ -15,7 +15,7 @@ inline const QString stateActivate = QStringLiteral("state:activate");
 inline const QString stateNothingToUndo = QStringLiteral("state:nothingtoundo");
 inline const QString stateNothingToRedo = QStringLiteral("state:nothingtoredo");
 
-/** True if the text behind the prefix is a state, and no document. */
+/** True if the text after the prefix is a state, not a document. */
 inline bool isState(const QString &payload)
 {
     return payload == stateActivate || payload == stateNothingToUndo ||

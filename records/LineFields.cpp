@@ -11,7 +11,7 @@
 
 namespace
 {
-/** Most numbers are whole, and those are quickly written. */
+/** True for small whole numbers, which most are and which are fast to write. */
 bool isPlain(double value)
 {
     constexpr double mostWhole = 99999;
@@ -36,7 +36,7 @@ private:
 
 QByteArray LineFields::number(double value)
 {
-    // As a whole number there is no "-0", which equals 0 but is another text.
+    // Avoids "-0", which equals 0 but is another text.
     if (isPlain(value))
         return Digits(int(value)).view().toByteArray();
     return QByteArray::number(value, 'g', QLocale::FloatingPointShortest);

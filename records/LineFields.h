@@ -11,22 +11,22 @@
 
 /**
  * The lines of the document file: a keyword, a position, plain fields in a fixed order, then named
- * ones in any. Numbers are written so that nothing of them is lost.
+ * ones in any order. Numbers are written without loss.
  */
 namespace LineFields
 {
 /** The shortest decimal text that reads back as the same number. */
 QByteArray number(double value);
 
-/** Reads a finite number; nothing for any other text. */
+/** Reads a finite number; nullopt for any other text. */
 std::optional<double> toNumber(const QString &text);
 } // namespace LineFields
 
-/** Puts a line together. Names are ASCII. */
+/** Writes a line, field by field. Names must be ASCII. */
 class LineWriter
 {
 public:
-    /** Begins with the keyword and the position, in scene units. */
+    /** Begins with the keyword, which is ASCII, and the position in scene units. */
     LineWriter(const QString &keyword, QPointF position);
 
     LineWriter &operator<<(int number);
@@ -40,32 +40,32 @@ public:
     /** Writes "name=1" if it is on, else nothing. */
     LineWriter &flag(QByteArrayView name, bool on);
 
-    /** The line, UTF-8, without an end. */
+    /** The line in UTF-8, without a line end. */
     QByteArray line() const { return QByteArray(m_bytes.constData(), m_bytes.size()); }
 
 private:
     void append(QByteArrayView bytes) { m_bytes.append(bytes.data(), bytes.size()); }
 
-    /** Grown in place: a QByteArray would look at itself with every field. */
+    /** Grows in place: a QByteArray would check for sharing with every field. */
     QVarLengthArray<char, 256> m_bytes;
 };
 
 /**
- * The fields of a line as numbers and texts; what is missing or malformed makes it invalid. Plain
- * fields are counted from the keyword, which is number 0.
+ * The fields of a line as numbers and texts; missing or malformed fields make it invalid. Plain
+ * fields are counted from the keyword, which has index 0.
  */
 class LineReader
 {
 public:
-    /** Reads the fields, which are not copied. */
+    /** `fields` are not copied and must outlive the reader. */
     explicit LineReader(const QuotedFields &fields)
         : m_fields(fields)
     {}
 
-    /** True unless something that was asked for was not there. */
+    /** False once a requested field was missing or malformed, or require() failed. */
     bool isValid() const { return m_valid; }
 
-    /** Makes the line invalid if what it says cannot be. */
+    /** Makes the line invalid if its values are not possible. */
     void require(bool isPossible) { m_valid = m_valid && isPossible; }
 
     QString keyword() const { return m_fields.plain().value(0); }
@@ -81,7 +81,7 @@ public:
     double number(const QString &name, double fallback);
     int integer(const QString &name) { return toInteger(m_fields.value(name)); }
 
-    /** So many numbers with a blank between them, in one field. */
+    /** Exactly `count` numbers in one field, separated by spaces. */
     QList<double> numbers(const QString &name, qsizetype count);
 
 private:

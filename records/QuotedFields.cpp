@@ -5,7 +5,7 @@ namespace
 constexpr int hexadecimal = 16;
 constexpr qsizetype codeDigits = 4;
 
-/** True for what a line of UTF-8 cannot hold, or what an eye could not tell from a blank. */
+/** True for characters that a line of UTF-8 cannot contain or that look like a space. */
 bool needsCode(QChar c)
 {
     return c.isSurrogate() || c.unicode() < 0x20 || (c.unicode() >= 0x7f && c.unicode() <= 0xa0) ||
@@ -18,7 +18,7 @@ QString code(QChar c)
     return QStringLiteral("\\u%1").arg(c.unicode(), int(codeDigits), hexadecimal, QLatin1Char('0'));
 }
 
-/** True if a letter beyond the basic plane begins at `i`. */
+/** True if a surrogate pair begins at `i`. */
 bool isPair(const QString &text, qsizetype i)
 {
     return text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
@@ -50,7 +50,7 @@ private:
     qsizetype m_at = 0;
 };
 
-/** What comes before the next blank, "=" or the end. */
+/** The text before the next space, "=" or the end. */
 QString Scanner::word()
 {
     const qsizetype begin = m_at;

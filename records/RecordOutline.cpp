@@ -7,10 +7,10 @@
 
 namespace
 {
-/** More characters than any number has that means something here. */
+/** Longer than any meaningful number. */
 constexpr qsizetype longestNumber = 32;
 
-/** A keyword as it stands in a message, and what is needed behind it. */
+/** A keyword as in messages, and the number of fields that it needs. */
 struct Keyword
 {
     QByteArray text;
@@ -64,7 +64,7 @@ RecordOutline::RecordOutline(QByteArrayView record)
     readFields(blank + 1, found->fields);
 }
 
-/** The last field is there as soon as the blank in front of it is: it may be empty. */
+/** The last field may be empty, so it is complete with the space before it. */
 void RecordOutline::readFields(qsizetype from, int needed)
 {
     for (int field = 1; field < needed; ++field) {
@@ -89,7 +89,7 @@ void RecordOutline::readBlock(qsizetype from)
         m_wholeFrom = end + endMark.size();
 }
 
-/** A line end closes a record that lacks fields: nobody writes one within. */
+/** A line end also ends an incomplete record, since no record contains one. */
 bool RecordOutline::isBrokenOff() const
 {
     if (m_kind == Kind::KeywordBegun)
@@ -143,7 +143,7 @@ bool RecordOutline::endsWithNumber(QByteArrayView bytes)
 
 bool RecordBeginning::isBegunKeyword(QByteArrayView bytes)
 {
-    // A keyword without the blank behind it is not whole either.
+    // A keyword without the space after it is not complete either.
     return std::any_of(keywords().cbegin(), keywords().cend(), [bytes](const Keyword &keyword) {
         return isProperBeginning(bytes, keyword.text) || bytes == keyword.text;
     });

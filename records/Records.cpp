@@ -11,7 +11,7 @@
 
 namespace
 {
-// How many fields there are behind the keyword; of a text block, before its first line end.
+// The number of fields after the keyword; for a text block, before its first line end.
 constexpr int bitmapFields = 4;
 constexpr int timesigFields = 4;
 constexpr int vectorFields = 6;
@@ -20,7 +20,8 @@ constexpr int textblockFields = 4;
 constexpr int pageCountFields = 1;
 constexpr int mostFields = textFields;
 
-/** Where `text` has `character` first, or its end; fields are short, and indexOf() starts slowly.
+/**
+ * The first index of `character` in `text`, or its size; faster than indexOf() for short fields.
  */
 qsizetype positionOf(char16_t character, QStringView text)
 {
@@ -31,7 +32,7 @@ qsizetype positionOf(char16_t character, QStringView text)
 class Fields
 {
 public:
-    /** Splits `text` at every blank; two blanks in a row have an empty field between them. */
+    /** Splits `text` at every space; two spaces in a row have an empty field between them. */
     explicit Fields(QStringView text)
     {
         while (m_fields.size() < mostFields) {
@@ -63,7 +64,7 @@ private:
 
 using Records::Record;
 
-/** A record that was read, or an empty one. */
+/** The parsed record, or an empty one. */
 template <typename Parsed>
 Record recordOf(const std::optional<Parsed> &parsed)
 {
@@ -105,8 +106,8 @@ const QList<Reader> &readers()
 }
 
 /**
- * Puts fields together with one blank between them. User text goes in as it stands: a chain of
- * QString::arg would replace a "%2" that the user typed.
+ * Joins fields with one space between them. User text is not changed: a chain of QString::arg would
+ * replace a "%2" in it.
  */
 class RecordLine
 {
@@ -139,7 +140,7 @@ public:
 private:
     void append(const QString &text) { m_line.append(text.constData(), text.size()); }
 
-    /** Grown in place: a QString would look at itself with every character. */
+    /** Grows in place: a QString would check for sharing with every character. */
     QVarLengthArray<QChar, 64> m_line;
 };
 } // namespace
@@ -264,8 +265,8 @@ std::optional<Records::Text> Records::parseText(QStringView text)
     const Fields fields(text);
     if (fields.count() < textFields)
         return std::nullopt;
-    // The colour was written with its alpha, eight hexadecimal digits, which no int holds: it
-    // reads as 0. The angle is read as a whole number. Both are intentional.
+    // The colour is written with alpha as eight hexadecimal digits, which overflow an int and read
+    // as 0. The angle is read as a whole number. Both are intentional.
     return Text{fields.number(0), fields.number(1),    fields.number(2),
                 fields.number(3), fields.text(4),      fields.text(5),
                 fields.number(6), fields.hexNumber(7), double(fields.number(8))};

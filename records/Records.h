@@ -8,15 +8,15 @@
 #include <variant>
 
 /**
- * The document's text records, written and read. Pure functions: no item, no scene.
+ * Writes and reads the text records of the document. Pure functions without items or scenes.
  *
- * A record is a line of fields with one blank between them, the first a keyword; only a text
+ * A record is a line of fields separated by single spaces, the first being a keyword; only a text
  * block's record spans several lines. Coordinates and sizes are whole scene units.
  *
  * What is written is not always what is read back, which is intentional: a simple text of several
- * words loses all but the first and reads its later fields from the wrong places, its colour does
- * not fit the number it is read as and comes back black, its fractional angle comes back as 0,
- * and a text block gains the line break in front of its end keyword.
+ * words loses all but the first and reads its later fields from the wrong places, its colour
+ * overflows when read and becomes black, its fractional angle becomes 0, and a text block gains the
+ * line break in front of its end keyword.
  */
 namespace Records
 {
@@ -30,13 +30,13 @@ QString tripletKeyword();
 QString textKeyword();
 QString textblockKeyword();
 
-/** The first word of the page-count line, which builds nothing. */
+/** The first word of the page-count line, which stands for no item. */
 QString pageCountKeyword();
 
-/** What stands behind the text of a text block. */
+/** The mark after the text of a text block. */
 QString textblockEnd();
 
-/** A first word that is known, and how many fields there are at least behind it. */
+/** A known keyword, and the minimum number of fields after it. */
 struct Kind
 {
     QString keyword;
@@ -46,13 +46,13 @@ struct Kind
 /** The nine kinds of records and the page-count line. */
 const QList<Kind> &kinds();
 
-/** True if this line begins a text block, whose record goes on to isBlockEnd(). */
+/** True if this line begins a text block, whose record ends with the line of isBlockEnd(). */
 bool isBlockBegin(QStringView line);
 
-/** True if this line is nothing but the end of a text block. */
+/** True if this line is only the end mark of a text block. */
 bool isBlockEnd(QStringView line);
 
-/** A text block's rectangle is this much wider than the text in it may be, in scene units. */
+/** How much wider a text block's rectangle is than its text's width, in scene units. */
 inline constexpr double widthBesideText = 1.0;
 
 /** A glyph. */
@@ -99,7 +99,7 @@ struct Text
     QString family;
     int pointSize;
     QRgb color;
-    double rotation; ///< degrees; only whole ones are read back
+    double rotation; ///< degrees; only whole ones can be read back
     bool operator==(const Text &) const = default;
 };
 
@@ -114,7 +114,7 @@ struct TextBlock
     bool operator==(const TextBlock &) const = default;
 };
 
-/** One record as read; empty if nothing is to be built from it. */
+/** A parsed record; empty if it does not stand for an item. */
 using Record = std::variant<std::monostate, Bitmap, TimeSig, Vector, Text, TextBlock>;
 
 /**
@@ -123,7 +123,7 @@ using Record = std::variant<std::monostate, Bitmap, TimeSig, Vector, Text, TextB
  */
 Record parse(QStringView record);
 
-// Reads what stands behind the keyword and its blank, under the same rules.
+// Reads the fields after the keyword and its space, by the same rules; nullopt if too few.
 
 std::optional<Bitmap> parseBitmap(QStringView fields);
 std::optional<TimeSig> parseTimeSig(QStringView fields);
@@ -131,19 +131,19 @@ std::optional<Vector> parseVector(const QString &keyword, QStringView fields);
 std::optional<Text> parseText(QStringView fields);
 std::optional<TextBlock> parseTextBlock(QStringView fields);
 
-/** What stands behind the keyword and its blank; empty if there is no keyword. */
+/** The text after the keyword and its space; empty if there is no keyword. */
 QStringView fieldsOf(QStringView record);
 
-/** The keyword of a record: the text before its first blank, or nothing. */
+/** The keyword of a record: the text before its first space, or empty. */
 QStringView keywordOf(QStringView record);
 
-/** Takes the first of the records, which are separated by "|", off the front of `records`. */
+/** Removes and returns the first of `records`, which are separated by "|". */
 QStringView takeFirst(QStringView &records);
 
-/** The line with which a document begins. */
+/** The first line of a document. */
 QString pageCountLine(int pageCount);
 
-// Writes a record. Its keyword is that of its kind, unless the item has been given another.
+// Writes a record. The keyword is that of its kind unless the item has a custom one.
 
 QString format(const Bitmap &record, const QString &keyword = bitmapKeyword());
 QString format(const TimeSig &record, const QString &keyword = timesigKeyword());

@@ -34,7 +34,7 @@ void ArcValuesFromPoints(float x1, float y1, float x2, float y2, float angle, fl
     const float m2 = slopeOfRadius(end);
     const float b1 = y1 - x1 * m1;
     const float x = (y2 - x2 * m2 - b1) / (m1 - m2);
-    // Compared as a float: the slope of a radius of exactly 90 degrees is more than an int holds.
+    // Compared as a float: the slope of a radius of exactly 90 degrees overflows an int.
     const float y =
         std::trunc(std::fabs(m1)) >= verticalSlope ? y2 - x2 * m2 + m2 * x : b1 + m1 * x;
 

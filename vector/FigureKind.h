@@ -7,10 +7,10 @@
 
 class QGraphicsItem;
 
-/** The values in which the figures between two points differ. */
+/** The properties in which the figures between two points differ. */
 struct FigureKind
 {
-    /** Where a figure's anchors are until the first resize moves one onto the pointer. */
+    /** The positions of a figure's anchors until the first resize moves one to the pointer. */
     enum class Anchors {
         AtPoints,            ///< on the start and the end point
         AtCornersOfItsBounds ///< on the top-left and the bottom-right corner
@@ -18,13 +18,13 @@ struct FigureKind
 
     int type;            ///< QGraphicsItem::type()
     QString keyword;     ///< the first word of its records and lines
-    QPointF newEndPoint; ///< end point of an item that is being added
+    QPointF newEndPoint; ///< end point of a new item, in item coordinates
     Anchors anchors;
 
-    /** A new figure of these points, which the caller owns. */
+    /** Makes a figure with these points in item coordinates; the caller owns it. */
     QGraphicsItem *(*make)(bool adding, QPointF start, QPointF end);
 
-    /** Where a new figure of these points has its anchors. */
+    /** The anchors of a new figure with these points, in item coordinates. */
     QList<QPointF> anchorsAt(QPointF start, QPointF end) const
     {
         const QRectF span = QRectF(start, end).normalized();
@@ -33,7 +33,7 @@ struct FigureKind
     }
 };
 
-/** What FigureKind::make is for a class. */
+/** FigureKind::make for a class. */
 template <typename Figure>
 QGraphicsItem *makeFigure(bool adding, QPointF start, QPointF end)
 {

@@ -8,23 +8,23 @@
 class LineReader;
 class TonquillVectorItem;
 
-/** A figure between two points. */
+/** The state of a figure between two points. */
 struct FigureState
 {
     using Anchors = std::pair<QPointF, QPointF>;
 
     QPointF position;
-    const FigureKind *kind; ///< which lives as long as the program
+    const FigureKind *kind; ///< never null; lives as long as the program
     QPointF start;
     QPointF end;
-    /** Where its two anchors are, if not where a new figure of these points has them. */
+    /** Its two anchors, unless they are where a new figure with these points has them. */
     std::optional<Anchors> anchors;
     bool operator==(const FigureState &) const = default;
 
     static FigureState of(const TonquillVectorItem &item);
     static FigureState read(LineReader &line, const FigureKind &kind);
 
-    /** What stands behind the keyword of a record of the host link; nothing if it lacks a field. */
+    /** Reads the fields after the keyword of a host's record; nullopt if one is missing. */
     static std::optional<FigureState> ofRecord(QStringView fields, const FigureKind &kind);
 
     static QStringList fieldNames() { return {QStringLiteral("anchors")}; }

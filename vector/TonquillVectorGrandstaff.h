@@ -10,7 +10,7 @@ class TonquillVectorGrandstaff : public TonquillVectorItem
 public:
     enum { Type = UserType + 4 };
 
-    /** What makes it this figure. */
+    /** The properties of this figure. */
     static const FigureKind &figure();
 
     TonquillVectorGrandstaff(bool adding, QPointF start, QPointF end,

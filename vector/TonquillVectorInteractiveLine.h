@@ -10,7 +10,7 @@ class TonquillVectorInteractiveLine : public TonquillVectorItem
 public:
     enum { Type = UserType + 5 };
 
-    /** What makes it this figure. */
+    /** The properties of this figure. */
     static const FigureKind &figure();
 
     TonquillVectorInteractiveLine(bool adding, QPointF start, QPointF end,

@@ -7,11 +7,11 @@
 #include <QGraphicsObject>
 
 /**
- * What the five figures stretched between two points share: their points and anchors, placing in
- * two clicks, moving and resizing, and their record. What differs is a FigureKind and one paint().
+ * Base of the five figures between two points: their points and anchors, placing with two clicks,
+ * moving, resizing, and their record. Derived classes add a FigureKind and paint().
  *
- * The points are in item coordinates (scene units, y down). A new item follows the pointer by its
- * start point until a click fixes that; then its end point follows until a second click.
+ * The points are in item coordinates (scene units, y down). The start point of a new item follows
+ * the pointer until a click; then its end point follows until a second click.
  */
 class TonquillVectorItem : public DocumentItemOf<QGraphicsObject>
 {
@@ -24,7 +24,7 @@ public:
     QPointF startPoint() const { return m_start; }
     QPointF endPoint() const { return m_end; }
 
-    /** The rectangle that the two points span, never negative and without a margin. */
+    /** The rectangle spanned by the two points, never negative and without a margin. */
     QRectF boundingRect() const override;
     int type() const override { return m_kind.type; }
 
@@ -33,12 +33,13 @@ public Q_SLOTS:
     QString getParamStr();
 
 protected:
-    /** With `adding` the two points are ignored: a new item has the kind's own, which outlives it.
+    /**
+     * With `adding` the two points are ignored: a new item has those of `kind`, which outlives it.
      */
     TonquillVectorItem(const FigureKind &kind, bool adding, QPointF start, QPointF end,
                        QGraphicsItem *parent);
 
-    /** Called after a point moved, between the notice of new bounds and the repaint. */
+    /** Called after a point has moved, between prepareGeometryChange() and the repaint. */
     virtual void pointsChanged() {}
 
     const PointerManners &manners() const override;
@@ -52,7 +53,7 @@ private:
     QRectF spannedRect() const;
 
     const FigureKind &m_kind;
-    QFont m_font; ///< bold, 23 points; the figures are drawn in the painter's own font
+    QFont m_font; ///< bold, 23 points; painting uses the painter's font
     QPointF m_start;
     QPointF m_end;
 };

@@ -10,7 +10,7 @@ class TonquillVectorLineTab : public TonquillVectorItem
 public:
     enum { Type = UserType + 6 };
 
-    /** What makes it this figure. */
+    /** The properties of this figure. */
     static const FigureKind &figure();
 
     TonquillVectorLineTab(bool adding, QPointF start, QPointF end, QGraphicsItem *parent = nullptr);

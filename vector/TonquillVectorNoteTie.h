@@ -11,7 +11,7 @@ class TonquillVectorNoteTie : public TonquillVectorItem
 public:
     enum { Type = UserType + 7 };
 
-    /** What makes it this figure. */
+    /** The properties of this figure. */
     static const FigureKind &figure();
 
     TonquillVectorNoteTie(bool adding, QPointF start, QPointF end, QGraphicsItem *parent = nullptr);

@@ -10,7 +10,7 @@ class TonquillVectorTriplet : public TonquillVectorItem
 public:
     enum { Type = UserType + 8 };
 
-    /** What makes it this figure. */
+    /** The properties of this figure. */
     static const FigureKind &figure();
 
     TonquillVectorTriplet(bool adding, QPointF start, QPointF end, QGraphicsItem *parent = nullptr);

@@ -19,7 +19,7 @@ constexpr double staffHeight = (staffLines - 1) * staffLineSpacing;
 constexpr double secondStaffFrom = 80.0;
 
 constexpr double tablatureSpacing = 14.0;
-/** More lines than any page shows; a host's absurd height must not fill the memory. */
+/** More lines than any page shows; an absurd height from a host must not exhaust the memory. */
 constexpr int mostTablatureLines = 100000;
 
 constexpr double tripletHook = 10.0;
@@ -41,14 +41,14 @@ void appendStaffLines(QList<QLine> &lines, double left, double right, double top
     }
 }
 
-/** A host's absurd points must not make a rectangle with an edge that no int holds. */
+/** Absurd points from a host must not overflow the edges of a rectangle. */
 int boundedInt(double value)
 {
     constexpr int farAway = 1 << 29;
     return qBound(-farAway, truncatedToInt(value), farAway);
 }
 
-/** Rounding noise must not cost a truncated coordinate a whole unit. */
+/** Removes rounding noise, which could change a truncated coordinate by a whole unit. */
 double withoutNoise(double value)
 {
     constexpr double noise = 1e-4;
@@ -56,7 +56,7 @@ double withoutNoise(double value)
     return std::fabs(value - nearest) < noise ? nearest : value;
 }
 
-/** Of a triplet's bracket: its middle, and where its arms end and begin again. */
+/** The middle of a triplet bracket, and the inner ends of its arms. */
 struct TripletPoints
 {
     QPointF middle;
@@ -64,7 +64,7 @@ struct TripletPoints
     QPointF secondArm;
 };
 
-/** The direction of a bracket in degrees, y down; no number for coinciding points. */
+/** The direction of a bracket in degrees, y down; NaN for coinciding points. */
 float tripletAngle(QPointF way)
 {
     const float slope = static_cast<float>(std::atan(way.y() / way.x()) * 180 / pi);
@@ -73,7 +73,7 @@ float tripletAngle(QPointF way)
     return way.y() < 0 ? slope + 360.0F : slope;
 }
 
-/** True for level and upright brackets, and for those without a direction. */
+/** True for horizontal and vertical brackets, and for those without a direction. */
 bool isAlongAxis(float angle)
 {
     return std::isnan(angle) || std::fmod(angle, 90.0F) == 0.0F;
@@ -94,9 +94,9 @@ TripletPoints straightTriplet(QPointF start, QPointF end)
 }
 
 /**
- * Slanted brackets are computed in single precision, intentional: once truncated, its rounding
- * decides between two whole coordinates wherever a point lies on one, and it has to decide the same
- * way for ever, for what is on screen and on paper must not move by a unit.
+ * Single precision is intentional for slanted brackets: where a point lies on a whole coordinate,
+ * rounding decides the truncated value, and it must stay the same so that existing documents do not
+ * change by a unit.
  */
 TripletPoints slantedTriplet(QPointF start, QPointF end, float angle)
 {
@@ -155,7 +155,7 @@ QList<QLine> VectorShapes::tablature(QPointF start, QPointF end, const QRectF &v
     const auto lineAt = [&start](double y) {
         return truncatedToInt((y - start.y()) / tablatureSpacing);
     };
-    // One more on either side, whose thickness may reach into what is visible.
+    // One more on either side, whose line width may extend into the visible part.
     const int from = std::clamp(lineAt(visible.top() - tablatureSpacing), 0, last);
     const int to = std::clamp(lineAt(visible.bottom() + tablatureSpacing), from,
                               std::min(last, from + std::min(last - from, mostTablatureLines - 1)));
@@ -202,7 +202,7 @@ VectorShapes::Tie VectorShapes::tie(QPointF start, QPointF end)
     const double left = centreX - radius;
     const double top = centreY - radius;
     const double size = 2.0 * radius;
-    // An empty path begins at the item's origin, so the bounds reach to it.
+    // An empty path begins at the item's origin, so the bounds include it.
     QPainterPath path;
     path.arcTo(QRectF(left, top, size, size), endAngle, tieAngle);
 

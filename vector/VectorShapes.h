@@ -14,25 +14,25 @@
  */
 namespace VectorShapes
 {
-/** One five-line staff, or two joined ones when the end lies more than 80 below the start. */
+/** One five-line staff, or two joined ones if the end is more than 80 below the start. */
 QList<QLine> grandstaff(QPointF start, QPointF end);
 
 /**
- * The lines of a grand staff without the upper staff's edges where the long ones cover them. Where
- * edges are soft, what is drawn twice is darker.
+ * The lines of a grand staff without the upper staff's edges, which the long ones cover: with
+ * antialiasing, lines drawn twice look darker.
  */
 QList<QLine> grandstaffDrawnOnce(QPointF start, QPointF end);
 
 /** The straight line between the points. */
 QList<QLine> line(QPointF start, QPointF end);
 
-/** As many lines, 14 apart, as whole spacings fit between the points, but at least two. */
+/** Lines 14 apart, as many as whole spacings fit between the points, but at least two. */
 QList<QLine> tablature(QPointF start, QPointF end);
 
-/** Of those, the ones that can be seen in `visible`, and the left edge as far as they reach. */
+/** Only the lines that are visible in `visible`, and the left edge as far as they extend. */
 QList<QLine> tablature(QPointF start, QPointF end, const QRectF &visible);
 
-/** A triplet bracket: its lines, and where the baseline of its numeral begins. */
+/** A triplet bracket: its lines, and the start of its numeral's baseline. */
 struct Triplet
 {
     QList<QLine> lines;
