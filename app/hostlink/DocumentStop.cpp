@@ -6,7 +6,9 @@
 
 namespace
 {
-/** Whether the last record, or one that stray separators have cut, is a text without its end. */
+/**
+ * True if the last record, or one split by stray separators, is a text block without its end mark.
+ */
 bool endsWithinBlock(QByteArrayView text, bool before)
 {
     static const QByteArray endMark = Records::textblockEnd().toLatin1();
@@ -58,10 +60,10 @@ bool DocumentStop::canGoOnWith(QByteArrayView bytes) const
     if (outline.isWholeBlock())
         return false;
     const bool stopsAtNumber = m_record.endsWith(' ') || RecordOutline::endsWithNumber(m_record);
-    // A number goes on with what numbers have, a colour's letters included.
+    // A number continues with characters of numbers, including the letters of colours.
     if (outline.isKnown() && !outline.hasSurplus() && stopsAtNumber)
         return QByteArrayView("0123456789abcdef.+-").contains(bytes.front());
-    // A word goes on with anything but a message that lacks its beginning.
+    // A word continues with anything except the end of a cut message before a prefix.
     const qsizetype separator = bytes.indexOf('|');
     return !bytes.first(separator < 0 ? bytes.size() : separator)
                 .contains(HostMessages::fromHost.toLatin1());

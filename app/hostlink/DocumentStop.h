@@ -3,28 +3,31 @@
 #include <QByteArray>
 
 /**
- * Where a document of the host's stopped when it was taken for whole. That may have been too soon:
- * bytes that come later without a message's prefix are the rest of it, if they can go on there.
+ * The point where a document of the host ended when it was considered complete. That may have been
+ * too early: later bytes without a prefix are the rest of it if they can continue it.
  */
 class DocumentStop
 {
 public:
-    /** Of a document, the text behind the prefix. */
+    /** `payload` is the document's text after the prefix. */
     explicit DocumentStop(QByteArrayView payload);
 
-    /** Of the same document once it went on: `text` begins with record() and what it became. */
+    /**
+     * Moves to the new end after the document has continued; `text` begins with the completed
+     * record().
+     */
     void moveTo(QByteArrayView text);
 
-    /** True if bytes that begin like these can be the rest of the document. */
+    /** True if these bytes can be the beginning of the document's rest. */
     bool canGoOnWith(QByteArrayView bytes) const;
 
-    /** The last record so far: what stands behind the last separator. */
+    /** The last record so far: the text after the last separator. */
     const QByteArray &record() const { return m_record; }
 
-    /** True if nothing has come of the document yet. */
+    /** True if no byte of the document has been received. */
     bool isAtBeginning() const { return m_size == 0; }
 
-    /** Bytes of the document so far. */
+    /** The size of the document so far, in bytes. */
     qsizetype size() const { return m_size; }
 
 private:
@@ -32,5 +35,5 @@ private:
 
     QByteArray m_record;
     qsizetype m_size = 0;
-    bool m_isWithinBlock = false; ///< a separator stood in a text block's text
+    bool m_isWithinBlock = false; ///< a text block contains a separator
 };

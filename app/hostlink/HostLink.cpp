@@ -13,8 +13,8 @@
 
 namespace
 {
-// Milliseconds. The longer a message, the likelier is a pause within it, and the less is a longer
-// wait noticed. A guess that was wrong costs no more than building the rest later.
+// Milliseconds. The longer a message, the more likely are pauses within it, and the less a longer
+// wait is noticed. After a wrong guess the rest is just built later.
 constexpr int quietAfterMessage = 60;
 constexpr int longestQuiet = 400;
 constexpr qsizetype bytesForOneMore = 64 * 1024;
@@ -58,7 +58,7 @@ bool HostLink::keepsConnection()
 
 void HostLink::readAvailable()
 {
-    // A socket that is closed must not be read from.
+    // A closed socket must not be read.
     if (m_paused || m_socket.bytesAvailable() == 0)
         return;
     const QByteArray bytes = m_socket.readAll();
@@ -76,10 +76,7 @@ void HostLink::startTimes()
     m_silence.start(static_cast<int>(longestWait));
 }
 
-/**
- * The window may have been busy for longer than the pause lasts, and what the host has written
- * meanwhile still waits to be read.
- */
+/** The window may have been busy for longer than the pause, with data of the host still unread. */
 void HostLink::judgeIfQuiet()
 {
     if (m_paused)
@@ -90,7 +87,7 @@ void HostLink::judgeIfQuiet()
         judge();
 }
 
-/** Nothing may be dropped before it is certain that no more has come. */
+/** Reads first, so that nothing is dropped while more has arrived. */
 void HostLink::giveUpIfQuiet()
 {
     judgeIfQuiet();
@@ -120,9 +117,9 @@ void HostLink::handle(const IncomingMessage::Message &message)
         if (message.text.startsWith(HostMessages::fromHost))
             act(message.text.sliced(HostMessages::fromHost.size()));
     } else if (HostMessages::isState(message.text)) {
-        act(message.text); // all that had come of it was its prefix
+        act(message.text); // only its prefix had been received
     } else if (m_document.goOn(message.text, *message.cameBefore) && m_toldHost) {
-        m_owesDocument = true; // what the host was told lacks the rest
+        m_owesDocument = true; // the host's copy lacks the rest
     }
 }
 
@@ -139,7 +136,7 @@ void HostLink::act(const QString &payload)
     }
 }
 
-/** Raising alone leaves a minimised window where it is, and the keyboard with another one. */
+/** Raising alone neither restores a minimised window nor gives it the focus. */
 void HostLink::showWindow()
 {
     m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
@@ -148,7 +145,7 @@ void HostLink::showWindow()
     m_window.activateWindow();
 }
 
-/** Told the same again while the box is open, the user has not to close it twice. */
+/** The same message while the box is open does not open a second one. */
 void HostLink::showBox(const QString &title, const QString &text)
 {
     const auto *open = m_window.findChild<QMessageBox *>(title, Qt::FindDirectChildrenOnly);
@@ -161,7 +158,7 @@ void HostLink::receiveDocument(const QString &payload)
 {
     m_document.show(payload);
     m_toldHost = false;
-    m_owesDocument = false; // what the user did meanwhile is gone
+    m_owesDocument = false; // the user's edits since then are lost
 }
 
 void HostLink::pause()
@@ -169,7 +166,7 @@ void HostLink::pause()
     m_paused = true;
 }
 
-/** A message that had begun to arrive is given its time anew: its rest may still be unread. */
+/** Restarts the timeout of an incomplete message: its rest may still be unread. */
 void HostLink::resume()
 {
     m_paused = false;
@@ -183,7 +180,7 @@ void HostLink::resume()
         startTimes();
 }
 
-/** What is cut off within a record is no document: better the one that the user sees. */
+/** A document that is cut off within a record is dropped; the current one is more useful. */
 void HostLink::onDisconnected()
 {
     m_outbox.clear();
@@ -227,6 +224,6 @@ void HostLink::sendNext()
                          : m_leavesOutItems ? m_scene.pageCountLine()
                                             : m_scene.notifyTW();
     qCDebug(lcRecords).noquote() << "notifyTW " << HostMessages::toHost + text;
-    // Latin-1 keeps an accented letter; what it lacks becomes a question mark.
+    // Latin-1 has accented letters; other characters become question marks.
     m_socket.write(HostMessages::toHost.toLatin1() + text.toLatin1());
 }

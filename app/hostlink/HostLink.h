@@ -15,9 +15,9 @@ class TonquillScene;
 /**
  * The editor's end of the local socket to the host.
  *
- * Incoming: collects messages, judges them once the host is quiet, and acts on those that are
- * whole. Outgoing: one message at a time, the document in its newest state, but not while one of
- * the host's is known to be incomplete. Without a host everything sent is silently lost.
+ * Incoming: collects messages, examines them when the host is quiet, and handles complete ones.
+ * Outgoing: one message at a time, the document in its latest state, but not while one from the
+ * host is known to be incomplete. Without a host, everything sent is silently discarded.
  */
 class HostLink : public QObject
 {
@@ -25,35 +25,35 @@ class HostLink : public QObject
 
 public:
     /**
-     * The link over `socket` to the document on `scene`. `window` is what the host can bring to the
-     * front, and the link's parent. All outlive it.
+     * Connects `socket` with the document on `scene`. `window`, the link's parent, is raised at the
+     * host's request. All of them outlive the link.
      */
     HostLink(QWidget &window, QLocalSocket &socket, TonquillScene &scene);
 
     /**
-     * To be asked on a new connection, before anything is sent. Somebody else's process is no host
-     * of this user's: it is hung up on, and the editor goes on without a host.
+     * To be called on a new connection before anything is sent. Disconnects and returns false if
+     * the other process belongs to another user; the editor then continues without a host.
      */
     bool keepsConnection();
 
-    /** Reads what the host has written so far. */
+    /** Reads all available data of the host. */
     void readAvailable();
 
     /** Sends the whole document. */
     void sendDocument();
 
-    /** From now on a document is sent without its items: the host sees the scene itself. */
+    /** From now on, documents are sent without items: the host accesses the scene itself. */
     void leaveOutItems() { m_leavesOutItems = true; }
 
     /** Sends one of the commands of HostMessages. */
     void sendCommand(const QString &command);
 
-    /** Shows the result of the host's document: records separated by "|". */
+    /** Shows a document of the host: records separated by "|". */
     void receiveDocument(const QString &payload);
 
     /**
-     * Leaves what the host sends unread until resume(), so that the document stays as it is while
-     * events are processed in the middle of work on it.
+     * Leaves the host's data unread until resume(), so that the document does not change while
+     * events are processed during work on it.
      */
     void pause();
     void resume();
@@ -77,12 +77,12 @@ private:
     TonquillScene &m_scene;
     IncomingMessage m_incoming;
     QElapsedTimer m_sinceFirstPiece;
-    QTimer m_quiet;   ///< after it what came is judged
-    QTimer m_silence; ///< after it what broke off is dropped
+    QTimer m_quiet;   ///< on timeout the received data is examined
+    QTimer m_silence; ///< on timeout incomplete data is dropped
     Outbox m_outbox;
     ReceivedDocument m_document;
-    bool m_toldHost = false;     ///< a document was sent since the host's last one was shown
-    bool m_owesDocument = false; ///< one is to be sent as soon as none is incomplete
+    bool m_toldHost = false;     ///< a document was sent since the host's last one
+    bool m_owesDocument = false; ///< a document is to be sent once none is incomplete
     bool m_paused = false;
     bool m_leavesOutItems = false;
 };

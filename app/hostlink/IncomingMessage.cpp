@@ -14,7 +14,7 @@ const QByteArray &prefix()
     return bytes;
 }
 
-/** True for the prefix and what follows it, and for a beginning of the prefix. */
+/** True if the bytes begin with the prefix or are a part of it. */
 bool beginsAsMessage(QByteArrayView bytes)
 {
     return prefix().startsWith(bytes.first(qMin(prefix().size(), bytes.size())));
@@ -28,7 +28,7 @@ void IncomingMessage::append(const QByteArray &bytes)
     m_received += bytes.size();
     if (m_origin == Origin::Foreign)
         return;
-    // The first letters of a prefix, and then all of it: the message that had begun is over.
+    // A partial prefix followed by a whole one: drop the message that had begun.
     if (m_origin == Origin::Open && originOf(m_bytes + bytes) == Origin::Foreign)
         m_bytes.clear();
     if (beginsAsMessage(bytes))
@@ -73,7 +73,7 @@ void IncomingMessage::decideOrigin()
         m_bytes.clear();
 }
 
-/** Only now, and not with every message that is taken: those behind it would be moved each time. */
+/** Removes all taken messages at once; doing it for each would move the rest every time. */
 void IncomingMessage::forgetTaken()
 {
     m_outline.reset();
@@ -90,7 +90,7 @@ void IncomingMessage::forgetTaken()
     m_begin = 0;
 }
 
-/** What is left behind a message came in more than one piece, whatever it came in. */
+/** The rest after a message always counts as more than one piece. */
 void IncomingMessage::beginAt(qsizetype offset)
 {
     m_begin = offset;
@@ -130,7 +130,7 @@ std::optional<IncomingMessage::Message> IncomingMessage::take()
         drop();
         return Message{};
     }
-    // What comes at once is one message, whatever stands in it.
+    // A single piece is one message, whatever it contains.
     const bool isOne = m_origin == Origin::Message && isOneSmallPiece();
     qsizetype end = isOne ? -1 : nextStart();
     if (end < 0)
@@ -150,7 +150,7 @@ std::optional<IncomingMessage::Message> IncomingMessage::take()
     } else {
         m_stop.emplace(text.sliced(prefix().size()));
     }
-    // Neither a state nor what a NUL has ended can go on.
+    // A state cannot continue, nor can a message that a NUL has ended.
     if (m_nul >= 0 || RecordBeginning::isState(m_stop->record()))
         m_stop.reset();
     m_origin = Origin::Open;
@@ -163,10 +163,10 @@ void IncomingMessage::drop()
     *this = IncomingMessage();
 }
 
-/** Where the next message begins, or -1. */
+/** The offset of the next message, or -1. */
 qsizetype IncomingMessage::nextStart()
 {
-    // What came alone was looked at as one message, and now more has come.
+    // A single piece was examined as one message, but more has arrived since.
     if (m_looked - m_searched >= prefix().size()) {
         m_looked = m_record = m_searched;
         m_nul = -1;
@@ -178,11 +178,11 @@ qsizetype IncomingMessage::nextStart()
     return hit;
 }
 
-/** Where the next message begins if the last bytes are the first letters of its prefix, or -1. */
+/** The offset of the next message if the bytes end with a part of its prefix, or -1. */
 qsizetype IncomingMessage::begunPrefix()
 {
     look(m_bytes.size());
-    // Keywords have the same first letter, and states have it within.
+    // Keywords begin with the letter of the prefix, and states contain it.
     if (isState(m_bytes.size()) ||
         RecordBeginning::isBegunKeyword(QByteArrayView(m_bytes).sliced(m_record)))
         return -1;
@@ -196,7 +196,7 @@ qsizetype IncomingMessage::begunPrefix()
     return -1;
 }
 
-/** Finds out in which record the bytes before `end` stand, and whether a NUL is among them. */
+/** Finds the record that contains the bytes before `end`, and the first NUL among them. */
 void IncomingMessage::look(qsizetype end)
 {
     if (end <= m_looked)
@@ -211,7 +211,7 @@ void IncomingMessage::look(qsizetype end)
     m_looked = end;
 }
 
-/** Whether the prefix at this place, or the beginning of one, is that of another message. */
+/** True if the whole or partial prefix at this offset begins another message. */
 bool IncomingMessage::isStart(qsizetype at, bool isWholePrefix)
 {
     look(at);
@@ -228,7 +228,7 @@ bool IncomingMessage::isStart(qsizetype at, bool isWholePrefix)
     return !record.isTextAt(at - m_record) || (isWholePrefix && !goesOnAsText(at));
 }
 
-/** True if all of the message before `end` is a state, or the first letters of one. */
+/** True if the whole message before `end` is a state or the beginning of one. */
 bool IncomingMessage::isState(qsizetype end) const
 {
     const bool isContinuation = m_origin == Origin::Continuation;
@@ -240,8 +240,8 @@ bool IncomingMessage::isState(qsizetype end) const
 }
 
 /**
- * A prefix within a text, right behind a pause: the user may have typed it. Then no message
- * follows, or the text's end mark does without another text's beginning.
+ * A prefix within a text and right after a pause may have been typed by the user. Then it is not
+ * followed by a message, or the text's end mark follows before another text block begins.
  */
 bool IncomingMessage::goesOnAsText(qsizetype at) const
 {
@@ -256,7 +256,9 @@ bool IncomingMessage::goesOnAsText(qsizetype at) const
     return !isMessage || (end >= 0 && (begin < 0 || end < begin));
 }
 
-/** Of the record at `at`, up to its separator; kept, for many may be asked of one long record. */
+/**
+ * The outline of the record at `at`, up to its separator; cached for the calls for one long record.
+ */
 const RecordOutline &IncomingMessage::outline(qsizetype at)
 {
     if (!m_outline || m_outlined != m_record) {

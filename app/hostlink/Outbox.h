@@ -4,25 +4,25 @@
 #include <QString>
 
 /**
- * What is to be sent to the host, in order, while an earlier message is still on its way.
+ * The queue of messages to the host while an earlier one is being sent.
  *
- * A document is only noted, not kept: it is written out when its turn comes, so the newest state
- * is what the host gets, and a host that does not read costs no memory.
+ * A document is only queued as a note and written when it is sent, so the host gets the latest
+ * state, and a host that does not read takes no memory.
  */
 class Outbox
 {
 public:
-    /** A command, or the document where `command` is empty. */
+    /** A command; the document if `command` is empty. */
     struct Message
     {
         QString command;
         bool isDocument() const { return command.isEmpty(); }
     };
 
-    /** Notes that the document is to be sent; right behind another such note it adds nothing. */
+    /** Queues the document, unless it is already the last entry. */
     void addDocument();
 
-    /** Adds a command. Of very many that nobody reads the oldest are dropped. */
+    /** Queues a command. The oldest are dropped when the host does not read very many. */
     void addCommand(const QString &command);
 
     bool isEmpty() const { return m_messages.isEmpty(); }

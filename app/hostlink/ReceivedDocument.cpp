@@ -9,11 +9,11 @@ ReceivedDocument::ReceivedDocument(TonquillScene &scene)
 void ReceivedDocument::show(QStringView payload)
 {
     m_scene.clearScene();
-    // A page-count line builds nothing: pages come and go with the user's page controls only.
+    // The page-count line is ignored: only the user's page controls add and delete pages.
     build(payload);
 }
 
-/** The last record by itself, for it alone may become another one. */
+/** Builds the last record separately, since only it may change later. */
 bool ReceivedDocument::build(QStringView records)
 {
     const qsizetype last = records.lastIndexOf(u'|') + 1;
@@ -39,7 +39,7 @@ bool ReceivedDocument::goOn(QStringView text, qsizetype cameBefore)
     return hasChanged;
 }
 
-/** Its last number had been cut. Gone, it stays gone: the user has deleted it meanwhile. */
+/** For a last number that was cut. An item that the user has deleted since is not replaced. */
 bool ReceivedDocument::replaceLastItem(QStringView record)
 {
     QGraphicsItem *item = m_lastItem.get(&m_scene);

@@ -6,20 +6,20 @@
 
 class TonquillScene;
 
-/** The host's last document on the scene, which may turn out to have been cut, and then goes on. */
+/** The host's last document on the scene. If it turns out to have been cut, it continues. */
 class ReceivedDocument
 {
 public:
     /** `scene` outlives the object. */
     explicit ReceivedDocument(TonquillScene &scene);
 
-    /** Replaces everything on the scene by these records, which are separated by "|". */
+    /** Replaces all items of the scene with these records, which are separated by "|". */
     void show(QStringView payload);
 
     /**
-     * Builds what was missing, as if it had come at once. `text` begins with the record at which
-     * the document stopped, of which `cameBefore` characters were known. True if that changed
-     * anything.
+     * Builds the rest of the document as if all had arrived at once. `text` begins with the record
+     * at which the document stopped, of which `cameBefore` characters were known. Returns true if
+     * anything changed.
      */
     bool goOn(QStringView text, qsizetype cameBefore);
 
@@ -28,5 +28,5 @@ private:
     bool replaceLastItem(QStringView record);
 
     TonquillScene &m_scene;
-    ItemReference m_lastItem; ///< what the document's last record built
+    ItemReference m_lastItem; ///< the item of the document's last record
 };

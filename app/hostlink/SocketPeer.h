@@ -12,12 +12,12 @@ struct SocketPeer
     qint64 process = 0;
     uint user = 0;
 
-    /** What the system says of the other end; nothing where it does not tell. */
+    /** The peer as reported by the system; nullopt if it does not report one. */
     static std::optional<SocketPeer> of(const QLocalSocket &socket);
 
     /**
-     * False if the other end is another user's process, the administrator's apart. In a folder
-     * that everybody may write to, anybody can take the name of a socket.
+     * False if the peer is a process of another user other than the administrator. In a
+     * world-writable folder, any user can create a socket of that name.
      */
     static bool isTrusted(const QLocalSocket &socket);
 };

@@ -22,7 +22,7 @@ void TrackwrightThread::run()
     std::string line;
     while (!isInterruptionRequested()) {
         if (!std::getline(std::cin, line)) {
-            // Nothing more will come, and the thread must not spin over that.
+            // End of input: the thread must not spin.
             msleep(endOfInputPause);
             continue;
         }

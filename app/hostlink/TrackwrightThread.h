@@ -6,9 +6,9 @@
 class TonquillMainWin;
 
 /**
- * Reads the host's messages from standard input, line by line. A second way for a host to speak to
- * the editor: the class is ready to use, and nothing starts it yet. Connect `twData` with a queued
- * connection, for it is emitted in this thread.
+ * Reads the host's messages from standard input, line by line. A second channel from a host to the
+ * editor, which nothing starts yet. Connect `twData` with a queued connection, since it is emitted
+ * in this thread.
  */
 class TrackwrightThread : public QThread
 {
@@ -22,10 +22,10 @@ Q_SIGNALS:
     void twData(QString msg);
 
 protected:
-    /** Never returns of itself; at the end of input it waits for QThread::requestInterruption(). */
+    /** Only returns after QThread::requestInterruption(), even at the end of input. */
     void run() override;
 
 private:
     TonquillMainWin *m_mainWin;
-    QLocalSocket m_socket; ///< for the channel's other direction, which nothing uses
+    QLocalSocket m_socket; ///< for the opposite direction, unused
 };

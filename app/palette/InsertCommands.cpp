@@ -23,7 +23,7 @@ void InsertCommands::text()
     auto *item = new TonquillText(true);
     dialog.applyTo(*item);
     m_scene.addOwnItem(item);
-    // A new text turns the other way than an edited one. That is intentional.
+    // Intentional: a new text rotates in the opposite direction of an edited one.
     item->setRotation(-dialog.angle());
     item->updateFrame();
 }

@@ -6,23 +6,22 @@ class QWidget;
 class TonquillScene;
 
 /**
- * The palette's commands for all but symbols: each makes a new item and hands it to the scene,
- * where it follows the pointer until it is placed. Most of them first drop an item that still waits
- * for that.
+ * The palette's commands for everything except symbols: each adds a new item to the scene, where it
+ * follows the pointer until it is placed. Most of them first drop an item that is still waiting.
  */
 class InsertCommands
 {
 public:
-    /** For `scene`, with dialogs over `window`. Both outlive the object. */
+    /** Adds to `scene` and opens dialogs over `window`. Both outlive the object. */
     InsertCommands(QWidget &window, TonquillScene &scene);
 
     /** A simple text, after its dialog was accepted. */
     void text();
 
-    /** A simple text with a tempo term. An item that waits stays. */
+    /** A simple text with a tempo term. A waiting item is kept. */
     void tempo(const QString &term);
 
-    /** A time signature written "upper/lower". An item that waits stays. */
+    /** A time signature written "upper/lower". A waiting item is kept. */
     void timeSignature(const QString &text);
 
     void textBlock();
@@ -31,7 +30,7 @@ public:
     void tie();
     void line();
 
-    /** Tablature lines. An item that waits stays, so that two of these may be laid in a row. */
+    /** Tablature lines. A waiting item is kept, so several can be placed in a row. */
     void tablature();
 
 private:

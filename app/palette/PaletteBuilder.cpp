@@ -17,8 +17,8 @@
 namespace
 {
 /**
- * A pointer that leaves the button by way of its menu is never seen to leave: Qt tells the button
- * nothing while the menu is open, and with the menu gone the pointer is elsewhere already.
+ * If the pointer leaves the button while its menu is open, Qt sends no leave event, not even when
+ * the menu closes.
  */
 void tellIfPointerLeft(QToolButton &button)
 {
@@ -55,7 +55,7 @@ void PaletteBuilder::buildToolBar(const PaletteToolBar &row)
     }
 }
 
-/** The action's text stays empty: the button is its icon, and its name goes into the tips. */
+/** The action's text stays empty: the button shows only its icon, and the tips show its name. */
 void PaletteBuilder::addAction(QToolBar *toolBar, const PaletteEntry &entry)
 {
     QAction *action = toolBar->addAction(QString());
@@ -177,7 +177,7 @@ void PaletteBuilder::keepToolBar2Strips(const ToolBarStrip &normal, const ToolBa
     }
 }
 
-/** The symbols are black; in a menu they take the colour of the menu's text. */
+/** The symbols are black; in a menu they get the colour of its text. */
 void PaletteBuilder::inkMenus()
 {
     for (const PaletteMenu &row : PaletteTable::menus()) {

@@ -16,11 +16,11 @@ class QWidget;
 class TonquillScene;
 class ToolBarStrip;
 
-/** Builds the three toolbars and their menus from the PaletteTable, for a window that has them. */
+/** Builds the three toolbars of a window and their menus from the PaletteTable. */
 class PaletteBuilder
 {
 public:
-    /** Where what is built can be found, and the pictures of the symbols, all by their ids. */
+    /** Stores the results by their ids, with the pictures of the symbols. */
     struct Parts
     {
         const QHash<int, QPixmap> &symbols;
@@ -34,26 +34,26 @@ public:
     };
 
     /**
-     * `window` has the toolbars by their names, and the slots that the table names; it owns the
-     * menus. Symbols without a slot are inserted into `scene`. All of them and the parts outlive
-     * the builder. `symbolsReferenceMenu` makes the menu of the button of that name.
+     * `window` has the toolbars, found by object name, and the slots named in the table; it owns
+     * the menus. Symbols without a slot are inserted into `scene`. All of these and the parts
+     * outlive the builder. `symbolsReferenceMenu` creates the menu of the symbols-reference button.
      */
     PaletteBuilder(QWidget &window, TonquillScene &scene, const Parts &parts,
                    std::function<QMenu *()> symbolsReferenceMenu);
 
-    /** Builds everything and connects every action to what it does. */
+    /** Builds everything and connects all actions. */
     void build(bool rests);
 
-    /** Builds the menu of a row, which the window then owns. */
+    /** Builds the menu of a row; the window owns it. */
     QMenu *constructMenu(const PaletteMenu &row);
 
-    /** Inks all icons in the window's present palette; `rests` as for showToolBar2Icons(). */
+    /** Redraws all icons in the window's current palette; `rests` as for showToolBar2Icons(). */
     void refreshIcons(bool rests);
 
     /** Shows rests on toolbar 2's note buttons, or the normal icons. */
     void showToolBar2Icons(bool rests);
 
-    /** A button that opens `menu` at once; it is added to a toolbar as a widget. */
+    /** A button that opens `menu` immediately, to be added to a toolbar, which then owns it. */
     static QToolButton *constructToolButton(const QIcon &icon, QMenu *menu);
 
 private:

@@ -9,16 +9,16 @@ namespace PaletteTable
 {
 namespace
 {
-/** Marks a name for translation; scripts/translate knows it, and takes its context from here. */
+/** Marks a name for translation; scripts/translate extracts it with this context. */
 #define NAME(text) QT_TRANSLATE_NOOP("PaletteTable", text)
 
-/** A button or entry that stands for a symbol and has its name. */
+/** A button or entry for a symbol, with the symbol's name. */
 PaletteEntry symbolEntry(int id, const char *slot, int symbol, const char *text = "")
 {
     return {.id = id, .slot = slot, .text = text, .symbol = symbol};
 }
 
-/** The button of a note value, which counts from 0 (whole) to 7 (128th). */
+/** The button of a note value; `value` is 0 (whole) to 7 (128th). */
 PaletteEntry noteButton(int id, const char *slot, int value)
 {
     PaletteEntry entry = symbolEntry(id, slot, SymbolTable::note(value));
@@ -93,7 +93,7 @@ QList<PaletteEntry> accidentals()
     };
 }
 
-/** Entries that differ only in their text, which is what their common slot inserts. */
+/** Entries with a common slot, which inserts their text. */
 QList<PaletteEntry> entriesByText(int firstId, const char *slot,
                                   std::initializer_list<const char *> texts)
 {

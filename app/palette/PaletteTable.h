@@ -10,17 +10,17 @@
 struct PaletteEntry
 {
     int id = -1;                ///< its key in the main window's action or menu hash
-    const char *slot = nullptr; ///< the main window's, as SLOT() gives it; null if it has none
-    const char *text = "";      ///< what a menu shows; empty for its name, and on a toolbar
-    const char *name = nullptr; ///< untranslated; null if it is the sense of its symbol
-    const char *hint = nullptr; ///< what the tips add, untranslated, or null
+    const char *slot = nullptr; ///< of the main window, as SLOT() returns it; null if none
+    const char *text = "";      ///< shown in a menu; empty for the name, and on a toolbar
+    const char *name = nullptr; ///< untranslated; null for the sense of its symbol
+    const char *hint = nullptr; ///< added to the tips, untranslated; null for none
     /**
-     * The symbol that it stands for, or -1: the icon of a menu entry. Without a slot the entry
-     * inserts it, with its upside-down form if it has one.
+     * The id of its symbol, which is the icon of a menu entry; -1 for none. Without a slot, the
+     * entry inserts the symbol with its upside-down form, if any.
      */
     int symbol = -1;
 
-    /** What a line between two entries of a menu is written as. */
+    /** A separator between two entries of a menu. */
     static PaletteEntry separator() { return {}; }
     bool isSeparator() const { return id < 0; }
 
@@ -30,7 +30,7 @@ struct PaletteEntry
     /** The name in the user's language. */
     QString translatedName() const;
 
-    /** Tooltip, status tip and accessible name: the name and the hint in the user's language. */
+    /** The tool tip, status tip and accessible name: name and hint in the user's language. */
     QString translatedTip() const;
 };
 
@@ -38,7 +38,7 @@ struct PaletteEntry
 struct PaletteToolBar
 {
     const char *objectName;
-    const char *strip;     ///< the name of the strip's image
+    const char *strip;     ///< name of the strip's image
     const char *heldStrip; ///< the strip while Ctrl is held, or null
     QList<PaletteEntry> entries;
 };
@@ -51,8 +51,8 @@ struct PaletteMenu
 };
 
 /**
- * The whole palette as rows. Toolbars, menus, tooltips and connections are built from nothing
- * else, so a new symbol is one row here, and on a toolbar a slice of its strip.
+ * The whole palette as rows, from which toolbars, menus, tool tips and connections are built. A new
+ * symbol takes one row here and, on a toolbar, one slice of its strip.
  */
 namespace PaletteTable
 {
@@ -60,9 +60,9 @@ namespace PaletteTable
 inline constexpr int symbolsReferenceId = 0x202;
 inline constexpr int toolBar2FirstId = 0x100;
 
-/** The toolbars in the order in which they are built: 1, 3, 2. */
+/** The toolbars in building order: 1, 3, 2. */
 const QList<PaletteToolBar> &toolBars();
 
-/** The menus of toolbar 2, by their buttons' order. */
+/** The menus of toolbar 2, in the order of their buttons. */
 const QList<PaletteMenu> &menus();
 } // namespace PaletteTable

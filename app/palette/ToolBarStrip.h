@@ -7,9 +7,9 @@
 #include <QSize>
 
 /**
- * The image strip of a toolbar: equal slices side by side, black ink on white. A second drawing
- * of twice the size serves dense screens. Icons are inked in the colour of the palette's text, so
- * that they can be read on a dark desktop too.
+ * The image strip of a toolbar: equal slices side by side, black ink on white. A second drawing of
+ * twice the size is for high-resolution screens. Icons are drawn in the palette's text colour, so
+ * they are also readable on a dark desktop.
  */
 class ToolBarStrip
 {
@@ -26,10 +26,10 @@ public:
     /** Slice `index` as a picture at 1x. */
     QPixmap slice(int index, const QColor &ink) const;
 
-    /** Slice `index` as an icon for ordinary and dense screens. */
+    /** Slice `index` as an icon for ordinary and high-resolution screens. */
     QIcon icon(int index, const QColor &ink) const;
 
-    /** A picture of ink, recoloured. */
+    /** The ink of a picture in another colour. */
     static QPixmap inked(QImage picture, const QColor &ink);
 
 private:

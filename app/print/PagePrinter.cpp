@@ -24,20 +24,20 @@ namespace
 /** The last bytes of a PDF file, which hold its end mark. */
 constexpr qint64 endOfPdf = 16;
 
-/** True if the printer only keeps the pages for the print preview to show. */
+/** True if the printer only records the pages for the print preview. */
 bool isPreview(const QPrinter &printer)
 {
     return printer.paintEngine()->type() == QPaintEngine::Picture;
 }
 
-/** True if the printer has been writing a file on disk, and no device. */
+/** True if the printer writes a regular file, not a device. */
 bool writesFile(const QPrinter &printer)
 {
     return !isPreview(printer) && printer.outputFormat() == QPrinter::PdfFormat &&
            QFileInfo(printer.outputFileName()).isFile();
 }
 
-/** False if the file lacks its end: the printer does not say that the disk was full. */
+/** False if the file is incomplete: the printer does not report a full disk. */
 bool isFileComplete(const QPrinter &printer)
 {
     QFile file(printer.outputFileName());
@@ -70,13 +70,13 @@ void PagePrinter::showPreview()
     QObject::connect(&dialog, SIGNAL(paintRequested(QPrinter *)), &m_window,
                      SLOT(print(QPrinter *)));
     dialog.exec();
-    // Pages may have been chosen for a print from within the preview.
+    // The user may have chosen pages for a print from the preview.
     PageRange::chooseAll(m_printer);
 }
 
 /**
- * The dialog is shown without waiting for it. Its own loop follows all the same: on Unix Qt
- * hands what was chosen to the printer at the end of that loop, and nowhere else.
+ * Opens the dialog without waiting, then runs its event loop from a timer: on Unix, Qt applies the
+ * choices to the printer only at the end of that loop.
  */
 void PagePrinter::showPageSetup()
 {
@@ -121,7 +121,7 @@ PagePrinter::Outcome PagePrinter::printPages(QPrinter &printer) const
 {
     const QList<int> pages = pagesFor(printer);
     QPainter painter;
-    // Were none of the chosen pages there, the printer would bring out an empty one.
+    // If none of the chosen pages exists, the printer would print an empty one.
     if ((pages.isEmpty() && m_scene.pageCount() > 0) || !painter.begin(&printer))
         return Outcome::NotStarted;
     painter.setRenderHint(QPainter::LosslessImageRendering);
@@ -149,7 +149,7 @@ QList<int> PagePrinter::pagesFor(const QPrinter &printer) const
     return PageRange::chosenOn(printer, count, m_currentPage());
 }
 
-/** None for the preview, which is no print, nor while there is no window to watch it. */
+/** Null for the preview, which is not a print, and without a visible window. */
 std::unique_ptr<PrintProgress> PagePrinter::progressOf(const QPrinter &printer, int pages) const
 {
     if (isPreview(printer) || !m_window.isVisible())
@@ -157,7 +157,7 @@ std::unique_ptr<PrintProgress> PagePrinter::progressOf(const QPrinter &printer, 
     return std::make_unique<PrintProgress>(m_window, m_pause, pages);
 }
 
-/** Null, which stands for all of the printable area, but for the document's own paper. */
+/** Null for the whole printable area, unless the printer has the document's own paper. */
 QRectF PagePrinter::targetOn(const QPrinter &printer) const
 {
     const QPageLayout layout = printer.pageLayout();

@@ -13,13 +13,13 @@ class QPrinter;
 class QWidget;
 class TonquillScene;
 
-/** Prints pages of the document, one printed page for each, and opens the print dialogs. */
+/** Prints pages of the document, each on a page of its own, and opens the print dialogs. */
 class PagePrinter
 {
     Q_DECLARE_TR_FUNCTIONS(PagePrinter)
 
 public:
-    /** What became of a print. */
+    /** The result of a print. */
     enum class Outcome {
         Printed,
         Cancelled, ///< by the user
@@ -28,17 +28,17 @@ public:
     };
 
     /**
-     * Prints the pages of `scene`. The dialogs set `printer` and stand over `window`, which has the
-     * slots print(QPrinter *) for the preview and OnPageSetupAccepted(). All three outlive the page
-     * printer. `currentPage` says, from 1, which page the user sees.
+     * Prints the pages of `scene`. The dialogs set up `printer` and open over `window`, which has
+     * the slots print(QPrinter *) for the preview and OnPageSetupAccepted(). All three outlive the
+     * page printer. `currentPage` returns the number of the visible page, from 1.
      */
     PagePrinter(QWidget &window, QPrinter &printer, TonquillScene &scene,
                 std::function<int()> currentPage, OutsidePause pause);
 
     /**
-     * Sets the dialogs' printer to the paper that the document is laid out on, in inches. As long
-     * as it stays at that, pages come out with their frame where it is on their own sheet; a page
-     * setup that is chosen later has them stretched as ever, until this is called again.
+     * Sets the dialogs' printer to the document's paper, in inches. While the printer keeps that
+     * paper, pages are printed with their frame at its position on the sheet. After another choice
+     * in the page setup they are stretched as usual, until the next call.
      */
     void setOwnPaper(const QSizeF &sheet, const QRectF &frame);
 
@@ -46,13 +46,13 @@ public:
     void showPageSetup();
     void showPrintDialog();
 
-    /** Prints the pages that are chosen on the printer, and tells the user if that fails. */
+    /** Prints the pages selected on the printer, and tells the user if that fails. */
     void print(QPrinter &printer) const;
 
     /**
-     * Prints the pages that are chosen on the printer, all if none are, stretched to the printer's
-     * printable area, or as it is if the printer has the document's own paper. The user can cancel
-     * a long print, which leaves no file behind. Whoever calls this tells the user of a failure.
+     * Prints the pages selected on the printer, by default all. They are stretched to its printable
+     * area, or unscaled if it has the document's own paper. The user can cancel a long print; an
+     * incomplete file is removed. The caller reports failures to the user.
      */
     Outcome printUnreported(QPrinter &printer) const;
 
@@ -68,7 +68,7 @@ private:
     TonquillScene &m_scene;
     std::function<int()> m_currentPage;
     OutsidePause m_pause;
-    QRectF m_ownFrame;      ///< inches; null unless the document has paper of its own
-    QPageLayout m_ownPaper; ///< as the document has it
-    QPageLayout m_setPaper; ///< as the printer took it, perhaps with wider margins
+    QRectF m_ownFrame;      ///< inches; null without paper of the document's own
+    QPageLayout m_ownPaper; ///< as in the document
+    QPageLayout m_setPaper; ///< as accepted by the printer, perhaps with wider margins
 };

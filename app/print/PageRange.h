@@ -4,19 +4,18 @@
 
 class QPrinter;
 
-/** Which pages of a document a printer is to print. */
+/** The pages of a document that a printer shall print. */
 namespace PageRange
 {
 /** The indices, from 0, of all pages. */
 QList<int> all(int pageCount);
 
 /**
- * The indices, from 0, of those of `pageCount` pages that are chosen on the printer: `currentPage`,
- * counted from 1, or the pages from one to another or in a list, of which those that do not exist
- * are left out; all if none were chosen.
+ * The indices, from 0, of the pages selected on the printer: all, `currentPage`, counted from 1, a
+ * range or a list. Pages beyond `pageCount` are left out.
  */
 QList<int> chosenOn(const QPrinter &printer, int pageCount, int currentPage);
 
-/** Has the printer print all pages again: a choice holds for one print only. */
+/** Resets the printer to all pages: a selection is for one print only. */
 void chooseAll(QPrinter &printer);
 } // namespace PageRange

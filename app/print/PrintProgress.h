@@ -7,8 +7,7 @@
 
 class QWidget;
 
-/** How to keep what comes from outside, such as a host's document, unread while pages are printed.
- */
+/** How to defer external input, such as a host's document, while pages are printed. */
 struct OutsidePause
 {
     std::function<void()> begin;
@@ -16,20 +15,25 @@ struct OutsidePause
 };
 
 /**
- * One print as the user watches it. A dialog appears once the print proves to be a long one, and
- * has the user's events processed from page to page. Until the print is over nothing else of the
- * program can be used, and what comes from outside has to wait.
+ * The progress of one print. A dialog appears if the print takes long, and processes the user's
+ * events after each page. During the print the rest of the program is blocked, and external input
+ * is deferred.
  */
 class PrintProgress
 {
     Q_DECLARE_TR_FUNCTIONS(PrintProgress)
 
 public:
-    /** Of so many pages, watched over `window`. `pause` outlives the object. */
+    /**
+     * For a print of `pages` pages, shown over `window`. Both `window` and `pause` outlive the
+     * object.
+     */
     PrintProgress(QWidget &window, const OutsidePause &pause, int pages);
     ~PrintProgress();
 
-    /** To be called before page `index`, counted from 0. False if the user has cancelled. */
+    /**
+     * To be called before page `index`, counted from 0. Returns false if the user has cancelled.
+     */
     bool beginPage(int index);
 
 private:

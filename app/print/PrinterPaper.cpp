@@ -4,7 +4,7 @@ namespace
 {
 constexpr double pointsPerInch = 72.0;
 
-/** Printers round sheets and margins to whole points, and paper is never cut that well. */
+/** Printers round sheets and margins to whole points; paper is cut less precisely. */
 constexpr double tolerance = 0.05; // inch
 } // namespace
 

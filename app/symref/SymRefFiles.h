@@ -9,16 +9,16 @@ class QObject;
 class QWidget;
 
 /**
- * The symbols reference files: one plain text for each instrument, in the application's directory.
- * The program lists and writes them and hands them to the user's text editor; it never reads them.
+ * The symbols reference files: one plain text file per instrument, in the application's directory.
+ * The program lists and writes them and opens them in the user's text editor; it never reads them.
  */
 class SymRefFiles
 {
 public:
     /**
      * `window` owns the menu and has the slots OnMenuActionSymRefCreateNew() and
-     * OnMenuActionSymRefSymRef(). The two fixed entries go into `actions`; the menu is refilled
-     * once it is known in `menus` by its button's id. All outlive the object.
+     * OnMenuActionSymRefSymRef(). The two fixed entries are added to `actions`; an existing menu,
+     * found in `menus` by its button's id, is refilled. All of them outlive the object.
      */
     SymRefFiles(QWidget &window, QHash<int, QAction *> &actions, const QHash<int, QMenu *> &menus,
                 int buttonId);

@@ -11,7 +11,7 @@ QString SymRefPaths::pathOf(const QString &instrument)
 
 bool SymRefPaths::staysInDirectory(const QString &instrument)
 {
-    // "SymRef_" stands before the name, so "..", too, is a name of its own until a separator comes.
+    // The name follows "SymRef_", so ".." does not climb before the first separator.
     QString name = instrument;
     const QStringList steps = name.replace(QDir::separator(), u'/').split(u'/');
     return steps.size() == 1 || !steps.contains(QStringLiteral(".."));
