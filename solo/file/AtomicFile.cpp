@@ -41,8 +41,8 @@ QString reason(int error)
 }
 
 /**
- * The file that a name means in the end, which a broken chain of symbolic links names as well.
- * Empty if the links lead round in a circle.
+ * The file that a path leads to through symbolic links, even if it does not exist. Empty if the
+ * links form a loop.
  */
 QString followed(const QString &path)
 {
@@ -58,10 +58,10 @@ QString followed(const QString &path)
     return info.filePath();
 }
 
-/** True if the name can be turned into the bytes by which the system knows the file, and back. */
+/** True if the path can be converted to the system's encoding and back without loss. */
 bool isRepresentable(const QString &path)
 {
-    // What is no UTF-8 was replaced when the name was read, so it would be another file's.
+    // Invalid UTF-8 was replaced when the name was read, so the path would be another file.
     const auto isRead = [](const QString &name, const QString &whole) {
         return !name.contains(QChar::ReplacementCharacter) || QFileInfo::exists(whole);
     };
@@ -70,20 +70,20 @@ bool isRepresentable(const QString &path)
            isRead(info.path(), info.path());
 }
 
-/** One way of writing a file, and what came of it. */
+/** The result of one way of writing a file. */
 struct Outcome
 {
-    int error = 0;               ///< the system's, 0 if the file is written
-    bool isOtherWayOpen = false; ///< the file itself may still be written
+    int error = 0;               ///< the system's error number, 0 on success
+    bool isOtherWayOpen = false; ///< writing in place may still work
     AtomicFile::Left left = AtomicFile::Left::AsBefore;
 };
 
-/** Puts a new file in the place of `target`. */
+/** Replaces `target` with a new file. */
 Outcome replace(const QByteArray &target, bool exists, const QByteArray &bytes,
                 AtomicFile::Readers readers)
 {
     constexpr int ownersOnly = 0600;
-    constexpr int forEverybody = 0666; // without what the umask forbids
+    constexpr int forEverybody = 0666; // reduced by the umask
     if (exists && FileOwnership::hasOtherNames(target))
         return {EMLINK, true};
     const bool isLikeOld = exists && readers == AtomicFile::Readers::AsUsual;
@@ -108,7 +108,7 @@ Outcome replace(const QByteArray &target, bool exists, const QByteArray &bytes,
     return outcome;
 }
 
-/** Writes a file where it is, while a copy of what it held is at hand. */
+/** Writes a file in place, after making a copy of its old contents. */
 class WriteThrough
 {
 public:
@@ -118,10 +118,10 @@ public:
         , m_copy(makeCopy())
     {}
 
-    /** The answer is empty, or says what went wrong. */
+    /** Returns an empty string on success, else the error. */
     QString write(const QByteArray &bytes);
 
-    /** What is in its place if that failed. */
+    /** The state of the file after write() failed. */
     AtomicFile::Left left() const { return m_left; }
 
 private:
@@ -137,7 +137,7 @@ private:
     AtomicFile::Left m_left = AtomicFile::Left::AsBefore;
 };
 
-/** Beside the file or, where nothing can be made there, in the folder for temporary files. */
+/** Beside the file or, if that is not possible, in the temporary folder. */
 FileDescriptor WriteThrough::makeCopy()
 {
     m_copyError = errno;
@@ -191,7 +191,7 @@ QString WriteThrough::write(const QByteArray &bytes)
                    "and what it holds cannot be kept safe while it is written: %1")
             .arg(reason(m_copyError));
     }
-    // Better before than in the middle.
+    // Fail before writing rather than in the middle.
     if (const int error = m_file.reserve(bytes.size())) {
         ::unlink(m_copyPath.constData());
         return reason(error);
@@ -218,7 +218,7 @@ QString AtomicFile::write(const QString &path, const QByteArray &bytes, Readers 
     }
     if (followedPath.isEmpty())
         return qt_error_string(ELOOP);
-    // The new file takes the place of the old one, which would be the end of a device.
+    // Replacing the file would destroy a device.
     const QFileInfo info(followedPath);
     if (info.exists() && !info.isFile())
         return QCoreApplication::translate("AtomicFile", "This is not an ordinary file.");
@@ -250,7 +250,7 @@ QString AtomicFile::write(const QString &path, const QByteArray &bytes, Readers 
         return file.errorString();
     if (readers == Readers::OwnerOnly)
         file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-    // On a full disk a part is written, which Qt takes for success.
+    // On a full disk only a part is written, which Qt reports as success.
     if (file.write(bytes) != bytes.size() || !file.flush()) {
         const QString error =
             file.error() == QFileDevice::NoError ? notEverything() : file.errorString();

@@ -9,15 +9,18 @@
 #include <memory>
 
 /**
- * A list that is cheap to keep in many slightly different states. It is held in chunks, the leaves
- * of a balanced tree, of which copies share all that is the same. A change copies no more than the
- * way to its chunk, and what two lists share is known to be equal without a look at it.
+ * A list of which many slightly different states can be stored cheaply. It consists of chunks, the
+ * leaves of a balanced tree, and copies share all equal parts. A change only copies the path to its
+ * chunk, and shared parts of two lists are equal without comparing them.
  */
 template <typename T>
 class ChunkedList
 {
 public:
-    /** Values from the index `at` on in an older list, and those in their place in a newer one. */
+    /**
+     * Values of an older list from the index `at` on, and the ones that replace them in a newer
+     * list.
+     */
     struct Change
     {
         qsizetype at = 0;
@@ -77,7 +80,7 @@ public:
     };
 
     ChunkedList() = default;
-    /** Not explicit: such a list is written and read as any other. */
+    /** Not explicit: a plain list converts implicitly. */
     ChunkedList(const QList<T> &values)
         : m_root(build(values))
     {}
@@ -102,7 +105,7 @@ public:
     const T &constLast() const { return lastOf(*m_root); }
     bool contains(const T &value) const { return std::find(begin(), end(), value) != end(); }
 
-    /** The values from `at` on, `count` of them, as a plain list. */
+    /** `count` values from `at` on, as a plain list. */
     QList<T> sliced(qsizetype at, qsizetype count) const
     {
         QList<T> values;
@@ -151,25 +154,28 @@ public:
 
     void remove(qsizetype index) { replace(index, 1, {}); }
 
-    /** Puts `values` in the place of the `count` values from `at` on. */
+    /** Replaces `count` values from `at` on with `values`. */
     void replace(qsizetype at, qsizetype count, const QList<T> &values)
     {
         m_root = replaced(m_root, at, count, values);
     }
 
-    /** Becomes equal to `other`, but goes on sharing with its own copies what is the same. */
+    /** Becomes equal to `other`, but keeps sharing equal parts with its own copies. */
     void become(const ChunkedList &other)
     {
         const QList<Change> way = changes(*this, other);
         if (way.size() * largestChunk > size()) {
-            *this = other; // hardly a chunk would stay the same
+            *this = other; // hardly any chunk would stay the same
             return;
         }
         for (const Change &change : way)
             replace(change.at, change.olderCount, other.sliced(change.at, change.newerCount));
     }
 
-    /** The first index whose value does not fulfil `isBefore`, which holds up to there. */
+    /**
+     * The first index whose value does not satisfy `isBefore`; all values before it must satisfy
+     * it.
+     */
     template <typename Predicate>
     qsizetype partitionPoint(const Predicate &isBefore) const
     {
@@ -193,9 +199,9 @@ public:
     }
 
     /**
-     * The way from one list to another. For lists of equal length a change for each run of values
-     * that differ; otherwise a single one, of all that is between the values which both begin with
-     * and end with. Indices are the same in both lists.
+     * The changes from one list to another. For lists of equal length, one change for each run of
+     * different values; otherwise a single one, of everything between the common beginning and the
+     * common end. `at` is the same index in both lists.
      */
     static QList<Change> changes(const ChunkedList &older, const ChunkedList &newer)
     {
@@ -213,7 +219,7 @@ private:
 
     static constexpr qsizetype largestChunk = 32;
 
-    /** A chunk of values, or two trees whose heights differ by one at most. */
+    /** A chunk of values, or two trees whose heights differ by at most one. */
     struct Node
     {
         Tree left;
@@ -238,7 +244,7 @@ private:
         return std::make_shared<Node>(Node{nullptr, nullptr, values, values.size(), 0});
     }
 
-    /** A tree of two whose heights differ by one at most; small chunks become one. */
+    /** A tree of two whose heights differ by at most one; small chunks are merged. */
     static Tree inner(const Tree &left, const Tree &right)
     {
         const qsizetype size = left->size + right->size;
@@ -248,7 +254,7 @@ private:
             Node{left, right, {}, size, qMax(left->height, right->height) + 1});
     }
 
-    /** A tree of two whose heights differ by two at most. */
+    /** A tree of two whose heights differ by at most two. */
     static Tree balanced(const Tree &left, const Tree &right)
     {
         if (left->height > right->height + 1) {
@@ -266,7 +272,7 @@ private:
         return inner(left, right);
     }
 
-    /** A tree of any two. */
+    /** A tree of any two trees. */
     static Tree join(const Tree &left, const Tree &right)
     {
         if (!left || !right)
@@ -306,7 +312,7 @@ private:
                     replaced(tree->right, 0, at + count - left, {}));
     }
 
-    /** The tree's node, to be changed: a copy if others share it. */
+    /** The tree's node for writing: detached if it is shared. */
     static Node &own(Tree &tree)
     {
         if (tree.use_count() > 1)
@@ -335,7 +341,8 @@ private:
 
     enum class Direction { Forward, Backward };
 
-    /** Goes through two lists side by side, by trees and chunks as large as they can be compared.
+    /**
+     * Walks through two lists in parallel, in the largest trees and chunks that can be compared.
      */
     template <Direction direction>
     class Walk
@@ -349,7 +356,7 @@ private:
                 m_b.nodes.append(b.m_root.get());
         }
 
-        /** Comes to the next values; false at the end of either list. */
+        /** Moves to the next values; false at the end of either list. */
         bool next()
         {
             m_a.advance(m_count);
@@ -369,18 +376,18 @@ private:
             return false;
         }
 
-        /** True if the values are the same without a look at them. */
+        /** True if the values are shared, and so equal. */
         bool isShared() const { return m_isShared; }
-        /** How many there are in both. */
+        /** The number of values here in both lists. */
         qsizetype count() const { return m_count; }
-        /** The values of index `i`, counted from where they begin in this direction. */
+        /** Compares the values at index `i`, counted from their start in this direction. */
         bool isEqual(qsizetype i) const { return m_a.value(i) == m_b.value(i); }
 
     private:
         struct Side
         {
-            QVarLengthArray<const Node *, 64> nodes; ///< all that is left, the next one last
-            qsizetype done = 0;                      ///< so many values of the next one
+            QVarLengthArray<const Node *, 64> nodes; ///< everything left, the next one last
+            qsizetype done = 0;                      ///< values of the next one that are done
 
             void descend()
             {
@@ -412,7 +419,7 @@ private:
         bool m_isShared = false;
     };
 
-    /** How many values both lists begin with, or end with, but no more than `most`. */
+    /** The length of the common beginning or end of both lists, at most `most`. */
     template <Direction direction>
     static qsizetype common(const ChunkedList &a, const ChunkedList &b, qsizetype most)
     {

@@ -82,7 +82,9 @@ QString DocumentBounds::problemOfExtent(const TextExtent &extent)
     return QString();
 }
 
-/** Told once more, of what was really read: the tags alone have kept that within bounds. */
+/**
+ * Checked again for the tables that Qt has read; the check of the tags has kept this affordable.
+ */
 QString DocumentBounds::problemOfTables(const TextExtent &extent)
 {
     if (extent.tableDepth() > deepestTables)

@@ -6,16 +6,18 @@
 
 class TextExtent;
 
-/** Counts what a document holds, item by item, and tells when that is more than it may hold. */
+/** Counts the contents of a document, item by item, against the limits of a document. */
 class DocumentBounds
 {
     Q_DECLARE_TR_FUNCTIONS(DocumentBounds)
 
 public:
-    /** What is said of more items than a document may have. */
+    /** The error for more items than a document may have. */
     static QString tooManyItems();
 
-    /** Why the document cannot have this item too; empty if it can, and then it counts. */
+    /**
+     * Adds an item. Returns an empty string on success, else why the document cannot contain it.
+     */
     QString problemOf(const ItemState &item);
 
 private:

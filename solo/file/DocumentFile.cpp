@@ -24,7 +24,7 @@ QByteArray paperLine(const Paper &paper)
     return DocumentFormat::paperKeyword.toLatin1() + fields.join(' ');
 }
 
-/** A line behind the reason why a document was not saved. */
+/** A line after the reason why a document was not saved. */
 QString whatIsLeft(AtomicFile::Left left)
 {
     switch (left) {
@@ -35,12 +35,12 @@ QString whatIsLeft(AtomicFile::Left left)
                                                    "The file is written, but a power cut may take "
                                                    "it back until it is saved again.");
     case AtomicFile::Left::Damaged:
-        break; // which the reason itself tells
+        break; // explained by the reason itself
     }
     return QString();
 }
 
-/** True if the line is that of an item with text. */
+/** True if the line is of an item with text. */
 bool hasText(const QByteArray &line)
 {
     const QByteArrayView keyword = QByteArrayView(line).first(qMax(line.indexOf(' '), 0));
@@ -49,8 +49,8 @@ bool hasText(const QByteArray &line)
 }
 
 /**
- * Why the document could not be opened again as a whole; empty if it could. Only texts can get
- * there by hand, by what is pasted into them.
+ * Why the document could not be opened again completely; empty if it could. Only texts can reach
+ * the limits by hand, by pasting into them.
  */
 QString problemOfReading(const LineList &items)
 {

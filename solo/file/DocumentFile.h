@@ -6,10 +6,10 @@
 #include <QString>
 
 /**
- * The document's file: UTF-8 text, one record a line. docs/file-format.md describes it.
+ * The document's file: UTF-8 text with one line per item, see docs/file-format.md.
  *
- * Reading takes a plain document of the host link as well. What cannot be read is reported with
- * its line; the rest is there to be offered.
+ * A plain document of the host link can be read, too. Problems are reported with their lines, and
+ * the rest is returned.
  */
 namespace DocumentFile
 {
@@ -19,21 +19,22 @@ using Problem = DocumentReading::Problem;
 /** The bytes of a document's file. */
 QByteArray format(const DocumentSnapshot &document);
 
-/** Reads the bytes of a file. Without paper of its own the document lies on `defaultPaper`. */
+/** Reads the bytes of a file. A document without paper gets `defaultPaper`. */
 Reading parse(const QByteArray &bytes, const Paper &defaultPaper);
 
-/** The bytes that a file may have to be read. */
+/** The maximum size of a file that is read, in bytes. */
 qint64 largestFile();
 
 /**
- * Reads a file; one that cannot be opened is a Reading that is no document and says why. What is
- * not an ordinary file is not waited for.
+ * Reads a file. If it cannot be opened, the result has the error and `isDocument` is false. Devices
+ * and pipes are refused.
  */
 Reading load(const QString &path, const Paper &defaultPaper);
 
 /**
- * Writes a file atomically. The answer is empty, or says what went wrong: also when the
- * document is more than could be read again. Only if nothing did, `stamp` is what the file is then.
+ * Writes a file atomically. Returns an empty string on success, else the error; it is also an error
+ * if the document is too large to be read again. On success, `stamp`, if not null, receives the
+ * state of the file.
  */
 QString save(const QString &path, const DocumentSnapshot &document, FileStamp *stamp = nullptr);
 } // namespace DocumentFile

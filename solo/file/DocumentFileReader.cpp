@@ -15,7 +15,7 @@ namespace
 {
 using namespace DocumentFormat;
 
-/** With this begins a document of the host link, which has no header. */
+/** The beginning of a document of the host link, which has no header. */
 const QString hostKeywordBegin = QStringLiteral("tonquill_");
 
 int lineNumber(qsizetype index)

@@ -7,7 +7,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 
-/** Reads a document's text line by line, remembering what is wrong with it. */
+/** Reads a document's text line by line and collects its problems. */
 class DocumentFileReader
 {
     Q_DECLARE_TR_FUNCTIONS(DocumentFileReader)

@@ -66,7 +66,7 @@ Paper DocumentSnapshot::paperOf(const TonquillMainWin &window)
     return Paper{window.scene->paperRect.size(), window.scene->pageRect};
 }
 
-/** Scene units are 1/88 inch across and 1/90 inch down. */
+/** Scene units are 1/88 inch horizontally and 1/90 inch vertically. */
 Paper Paper::inInches() const
 {
     const QRectF inch = PageGeometry::paperRect(QRectF(0, 0, 1, 1));

@@ -11,7 +11,7 @@
 class QGraphicsItem;
 class TonquillMainWin;
 
-/** The paper that a document is laid out on, in scene units. */
+/** The paper of a document, in scene units. */
 struct Paper
 {
     QSizeF size;
@@ -22,8 +22,8 @@ struct Paper
 };
 
 /**
- * A document as it is at one moment: paper, number of pages, and a line of the file for each
- * item, from the lowest to the topmost. Copies share their lines.
+ * The state of a document: paper, number of pages, and a line of the file for each item, from the
+ * bottommost to the topmost. Copies share their lines.
  */
 struct DocumentSnapshot
 {
@@ -34,24 +34,24 @@ struct DocumentSnapshot
     bool operator==(const DocumentSnapshot &) const = default;
 
     /**
-     * Reads the window's document. Items that wait to be placed are no part of it yet. With `read`,
+     * Captures the window's document, without items that wait to be placed. If `read` is not null,
      * the items of the lines are appended to it.
      */
     static DocumentSnapshot capture(const TonquillMainWin &window,
                                     QList<QGraphicsItem *> *read = nullptr);
 
     /**
-     * Replaces the window's document by this one. What the view shows stays where it is, and
-     * exactly these items are selected.
+     * Replaces the window's document with this one. The view keeps its scroll position, and exactly
+     * the items of `selection` are selected.
      */
     void restore(TonquillMainWin &window, const ItemSelection &selection = {}) const;
 
-    /** The items on the window's pages, from the lowest to the topmost; none that is another's. */
+    /** The top-level items on the window's pages, from the bottommost to the topmost. */
     static QList<QGraphicsItem *> itemsOf(const TonquillMainWin &window);
 
     /**
-     * The line of an item; empty for one that waits to be placed, and for one of no known kind, of
-     * which the log is told if it is the document's.
+     * The line of an item; empty for one that waits to be placed and for one of unknown kind, which
+     * is logged if it belongs to the document.
      */
     static QByteArray lineOf(const QGraphicsItem *item);
 
@@ -59,8 +59,7 @@ struct DocumentSnapshot
     static Paper paperOf(const TonquillMainWin &window);
 
     /**
-     * Sets the window's printer to the window's paper. A page setup that the user has chosen for
-     * the document before is given up.
+     * Sets the window's printer to the window's paper, discarding the user's previous page setup.
      */
     static void setPrinterPaper(TonquillMainWin &window);
 

@@ -12,7 +12,7 @@
 
 namespace
 {
-/** The longest name that any file system of ours takes. */
+/** The longest file name that common file systems allow, in bytes. */
 constexpr qsizetype longestName = 255;
 
 int answer(int result)
@@ -31,7 +31,7 @@ QByteArray folderOf(const QByteArray &path)
     return start == 0 ? QByteArray(".") : path.first(start);
 }
 
-/** The path with an ending that nobody else has; a long name loses letters for it. */
+/** The path with a unique suffix; long names are shortened to make room for it. */
 QByteArray likeButOther(const QByteArray &path)
 {
     constexpr qsizetype letters = 6;
@@ -39,7 +39,7 @@ QByteArray likeButOther(const QByteArray &path)
     QByteArray name =
         path.sliced(nameStart(path))
             .first(std::min(path.size() - nameStart(path), longestName - letters - 1));
-    // Not within a letter of several bytes: some file systems take whole letters only.
+    // Not within a multi-byte character: some file systems require valid UTF-8.
     const auto isWithinLetter = [&path](qsizetype at) {
         return at < path.size() && (path[at] & 0xc0) == 0x80;
     };
@@ -115,7 +115,7 @@ int FileDescriptor::reserve(qint64 size) const
     if (size == 0)
         return 0;
     const int error = answer(::fallocate(m_descriptor, FALLOC_FL_KEEP_SIZE, 0, size));
-    // Not every file system can tell beforehand.
+    // Not every file system supports this.
     return error == ENOSPC || error == EDQUOT || error == EFBIG ? error : 0;
 }
 
@@ -137,10 +137,10 @@ int FileDescriptor::sync() const
 int FileDescriptor::syncFolderOf(const QByteArray &path) const
 {
     const FileDescriptor folder = open(folderOf(path), O_RDONLY | O_DIRECTORY);
-    // A folder that one may not look into cannot be opened; then all of its disk is synced.
+    // A folder without read permission cannot be opened; then sync the whole file system.
     if (!folder.isOpen())
         return answer(::syncfs(m_descriptor));
     const int error = folder.sync();
-    // Some network folders have nothing to sync.
+    // Some network file systems do not support syncing folders.
     return error == EINVAL || error == ENOTSUP ? 0 : error;
 }

@@ -4,7 +4,7 @@
 #include <QtGlobal>
 
 /**
- * An open file of the system, closed when this ends. Functions that may fail answer 0 or the
+ * Owns a file descriptor and closes it on destruction. Functions that may fail return 0 or the
  * system's error number.
  */
 class FileDescriptor
@@ -20,31 +20,36 @@ public:
     {}
     FileDescriptor &operator=(FileDescriptor &&) = delete;
 
-    /** Opens a file that is there, to be read or written without cutting it off. */
+    /**
+     * Opens an existing file for reading or writing, without truncating it; see errno on failure.
+     */
     static FileDescriptor open(const QByteArray &path, int flags);
 
-    /** Makes a file of its own beside `path`, with a name like that one's, and says its path. */
+    /**
+     * Creates a new file beside `path` with a similar name, and stores its path in `madePath`; see
+     * errno on failure.
+     */
     static FileDescriptor createBeside(const QByteArray &path, int mode, QByteArray &madePath);
 
     bool isOpen() const { return m_descriptor >= 0; }
     int number() const { return m_descriptor; }
 
-    /** Writes on from where the file stands. */
+    /** Writes at the current position. */
     int write(const char *bytes, qsizetype size) const;
 
-    /** Writes all of another file, from its beginning, on from where this one stands. */
+    /** Writes the whole contents of another file at the current position. */
     int writeAllOf(const FileDescriptor &other) const;
 
-    /** Makes sure that there is room for `size` bytes from the beginning, if that can be told. */
+    /** Reserves disk space for `size` bytes from the beginning, if the file system supports it. */
     int reserve(qint64 size) const;
 
     int rewind() const;
     int cutOff(qint64 size) const;
 
-    /** Returns when the file is on the disk. */
+    /** Syncs the file to disk. */
     int sync() const;
 
-    /** Returns when the names in the folder of `path`, this file's, are on the disk. */
+    /** Syncs the folder of `path`, which is this file's path, to disk. */
     int syncFolderOf(const QByteArray &path) const;
 
 private:

@@ -14,12 +14,12 @@
 
 namespace
 {
-/** Calls `get(buffer, size)` with a buffer that is large enough; nothing if that fails. */
+/** Calls `get(buffer, size)` with a buffer that is large enough; nullopt if that fails. */
 template <typename Get>
 std::optional<QByteArray> sized(const Get &get)
 {
     constexpr int mostTries = 10;
-    // It may grow between asking how much there is and getting it.
+    // The size may grow between the two calls.
     for (int i = 0; i < mostTries; ++i) {
         const ssize_t size = get(nullptr, size_t(0));
         if (size < 0)
@@ -34,7 +34,7 @@ std::optional<QByteArray> sized(const Get &get)
     return std::nullopt;
 }
 
-/** The names of the attributes; none where the file system has no such thing. */
+/** The names of the attributes; none if the file system does not support them; nullopt on error. */
 std::optional<QByteArrayList> attributesOf(const QByteArray &path)
 {
     const auto names =
@@ -60,7 +60,7 @@ bool copyAttributes(const QByteArray &path, const FileDescriptor &newFile)
     const std::optional<QByteArrayList> newNames = attributesOf(newPath);
     if (!names || !newNames)
         return false;
-    // What the folder gives to every new file, the old one may not have.
+    // Remove attributes that new files inherit from the folder but the old file does not have.
     for (const QByteArray &name : *newNames) {
         if (!names->contains(name) && ::fremovexattr(newFile.number(), name.constData()) != 0)
             return false;
@@ -91,7 +91,8 @@ bool FileOwnership::copy(const QByteArray &path, const FileDescriptor &newFile)
     if ((user != sameUser || group != sameGroup) && ::fchown(newFile.number(), user, group) != 0)
         return false;
     constexpr mode_t permissions = 07777;
-    // An access list has the group's rights in its mask, so it comes after the mode.
+    // An access control list contains the group's permissions in its mask, so it is set after the
+    // mode.
     return ::fchmod(newFile.number(), from.st_mode & permissions) == 0 &&
            copyAttributes(path, newFile) && ::fstat(newFile.number(), &to) == 0 &&
            (to.st_mode & permissions) == (from.st_mode & permissions);

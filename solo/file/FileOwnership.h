@@ -4,16 +4,18 @@
 
 class FileDescriptor;
 
-/** Whose a file is and who may do what with it: owner, group, mode and extended attributes. */
+/** The owner, group, mode and extended attributes of files. */
 namespace FileOwnership
 {
 /**
- * Gives a new file all that the file at `path` has. False if one of them may not be given, as
- * when the file is another user's; then the new file must not take the old one's place.
+ * Copies them from the file at `path` to a new file. Returns false if one cannot be set, for
+ * example because the file belongs to another user; then the new file must not replace the old one.
  */
 bool copy(const QByteArray &path, const FileDescriptor &newFile);
 
-/** True if the file has other names, which would go on naming the old one. */
+/**
+ * True if the file has more hard links, which would still refer to the old file after replacing it.
+ */
 bool hasOtherNames(const QByteArray &path);
 
 /** True if this process may write the file. */

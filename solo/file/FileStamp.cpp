@@ -65,7 +65,7 @@ FileStamp::Change FileStamp::changeAt(const QString &path) const
         return exists ? Change::Removed : Change::None;
     if (!exists)
         return Change::Changed;
-    // A clock may stand still between two writes, so the contents decide.
+    // Two writes may have the same time, so the contents decide.
     const OrdinaryFile::Contents read = OrdinaryFile::read(path);
     const bool isSame = read.error.isEmpty() ? hashOf(read.bytes) == contents : looksLike(now);
     return isSame ? Change::None : Change::Changed;

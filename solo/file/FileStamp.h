@@ -4,12 +4,12 @@
 #include <QString>
 
 /**
- * What a file on disk was at one moment, to find out later whether another program has changed or
- * replaced it. A default one stands for no file.
+ * The state of a file on disk, to find out later whether another program has changed or replaced
+ * it. A default-constructed stamp stands for no file.
  */
 struct FileStamp
 {
-    /** What has become of a file. */
+    /** What happened to a file. */
     enum class Change { None, Changed, Removed };
 
     bool exists = false;
@@ -17,23 +17,23 @@ struct FileStamp
     quint64 inode = 0;
     qint64 size = 0;
     qint64 modified = 0; ///< nanoseconds since 1970
-    QByteArray contents; ///< a hash in hexadecimal digits; empty if it was not read
+    QByteArray contents; ///< a hash in hexadecimal digits; empty if unknown
 
-    /** The file as it is now, without a look into it. */
+    /** The current state of the file, without reading it. */
     static FileStamp at(const QString &path);
 
-    /** The file that these bytes were just read from, or written to. */
+    /** The state of the file from which `bytes` were just read or to which they were written. */
     static FileStamp of(const QString &path, const QByteArray &bytes);
 
-    /** A file of which only the hash of its contents is known. */
+    /** The state of a file of which only the hash of its contents is known. */
     static FileStamp ofContents(const QByteArray &hash);
 
-    /** True if the disk tells the same of both, whatever their contents. */
+    /** True if both have the same metadata; contents are not compared. */
     bool looksLike(const FileStamp &other) const;
 
-    /** True if both are one file, by whatever names it goes. */
+    /** True if both are the same file, even under different names. */
     bool isSameFileAs(const FileStamp &other) const;
 
-    /** What has become of the file since. One that holds the same bytes as before is unchanged. */
+    /** What has happened to the file since. A file with the same bytes counts as unchanged. */
     Change changeAt(const QString &path) const;
 };

@@ -11,7 +11,7 @@ namespace
 {
 using Maybe = std::optional<ItemState>;
 
-/** The families of the text dialog that have a blank in their name. */
+/** The families of the text dialog that have a space in their name. */
 const QStringList &familiesWithBlanks()
 {
     static const QStringList families{QStringLiteral("Courier New"),
@@ -19,7 +19,7 @@ const QStringList &familiesWithBlanks()
     return families;
 }
 
-/** The font family at the end of `words`: one that is known to have blanks, or the last word. */
+/** The font family at the end of `words`: a known one with spaces, or the last word. */
 QString familyAtEndOf(const QString &words)
 {
     for (const QString &family : familiesWithBlanks()) {
@@ -29,7 +29,7 @@ QString familyAtEndOf(const QString &words)
     return words.section(u' ', -1);
 }
 
-/** Everything between the four numbers in front and the three fields at the end is text. */
+/** Everything between the four numbers at the beginning and the three fields at the end is text. */
 Maybe readText(const QString &record)
 {
     static const QRegularExpression pattern(
@@ -68,6 +68,6 @@ Maybe HostRecordReader::read(const QString &record)
 
 Maybe HostRecordReader::readBlock(const QString &header, const QStringList &text)
 {
-    // The line break in front of the end is the record's, not the text's.
+    // The line break before the end mark belongs to the record, not to the text.
     return read(header + u'\n' + text.join(u'\n') + Records::textblockEnd());
 }

@@ -5,17 +5,17 @@
 #include <QStringList>
 
 /**
- * Reads the records of the host link as they are stored by a host: the page-count line, then a
- * record for each item, the topmost first.
+ * Reads the records of a document that was stored by a host: the page-count line, then one record
+ * per item, topmost first.
  *
- * A person's words are worth more than the link's rules: what the editor's own reader gets wrong
- * on purpose, such as a simple text of several words, is understood here as it was written.
+ * The user's texts matter more than the rules of the host link: what the reader of the link
+ * intentionally misreads, such as a simple text of several words, is read here as it was meant.
  */
 namespace HostRecordReader
 {
-/** The item of a record of one line; nothing if it is none. */
+/** The item of a record of one line; nullopt if it is malformed. */
 std::optional<ItemState> read(const QString &record);
 
-/** The text block of its first line and the lines of its text. */
+/** The text block with this first line and these lines of text; nullopt if it is malformed. */
 std::optional<ItemState> readBlock(const QString &header, const QStringList &text);
 } // namespace HostRecordReader

@@ -5,7 +5,7 @@
 
 namespace
 {
-/** True for elements that hold nothing, so that what follows does not stand in them. */
+/** True for void elements: what follows is not inside them. */
 bool isEmptyElement(const QString &tag)
 {
     static const QStringList tags{QStringLiteral("br"),   QStringLiteral("hr"),
@@ -14,7 +14,7 @@ bool isEmptyElement(const QString &tag)
     return tags.contains(tag);
 }
 
-/** True for elements that hold others of their kind, each for itself. */
+/** True for elements that separate the elements inside from those outside. */
 bool isEnclosing(const QString &tag)
 {
     static const QStringList tags{QStringLiteral("table"), QStringLiteral("ul"),
@@ -22,7 +22,7 @@ bool isEnclosing(const QString &tag)
     return tags.contains(tag);
 }
 
-/** True for elements that end where another of their kind begins. */
+/** True for elements that end where another one of their kind begins. */
 bool endsAtItsLike(const QString &tag)
 {
     static const QStringList tags{QStringLiteral("p"),  QStringLiteral("li"), QStringLiteral("tr"),
@@ -65,7 +65,7 @@ void HtmlOutline::skipBehind(QChar c)
     m_at = found < 0 ? m_html.size() : found + 1;
 }
 
-/** A name or a value, in which any letter may be written as an entity. */
+/** A name or a value, in which any character may be an entity. */
 QString HtmlOutline::word()
 {
     QString result;
@@ -88,7 +88,7 @@ QString HtmlOutline::word()
     return result;
 }
 
-/** The letter that an entity's number stands for; as it stands if it has none. */
+/** The character of a numeric entity; any other entity is returned unchanged. */
 QString HtmlOutline::entity()
 {
     constexpr qsizetype longest = 10;
@@ -126,7 +126,7 @@ HtmlOutline::Attributes HtmlOutline::attributes()
             skipBlanks();
             value = word();
         }
-        // Of several with one name the last counts, but not for what is looked for here.
+        // Of attributes with the same name the last counts, but the largest span is safer here.
         if (!value.isEmpty() && value.toInt() >= result.value(key).toInt())
             result.insert(key, value);
     }
@@ -187,7 +187,9 @@ void HtmlOutline::open(const QString &tag, const Attributes &attributes)
     }
 }
 
-/** Ends an element of this kind, with what stands in it, unless that is in another table or list.
+/**
+ * Ends an element of this kind with its contents, unless it is outside of the innermost table or
+ * list.
  */
 void HtmlOutline::closeLike(const QString &tag)
 {

@@ -5,41 +5,41 @@
 #include <QStringList>
 
 /**
- * What a formatted text would cost to lay out, told from its tags alone: laying it out could take
- * longer than anyone waits. Tags are read as Qt's reader of HTML reads them, whose notion of HTML
- * is its own.
+ * Estimates the cost of laying out a formatted text from its tags alone, because the layout itself
+ * could take too long. Tags are parsed exactly as Qt's HTML parser does, which differs from
+ * standard HTML.
  */
 class HtmlOutline
 {
 public:
     explicit HtmlOutline(const QString &html);
 
-    /** How many elements stand in each other. */
+    /** The nesting depth of elements. */
     qsizetype depth() const { return m_depth; }
 
-    /** How many tables stand in each other. */
+    /** The nesting depth of tables. */
     qsizetype tableDepth() const { return m_tableDepth; }
 
     /**
-     * The cells of all tables, with those that spans take up. Each counts twice as much for every
-     * table around its own, for that is how often it is laid out.
+     * The cells of all tables, including those covered by spans. Each counts twice for every
+     * enclosing table, since that is how often it is laid out.
      */
     double cells() const { return m_cells; }
 
-    /** The addresses of the pictures. */
+    /** The URLs of the pictures. */
     const QStringList &pictures() const { return m_pictures; }
 
 private:
     using Attributes = QHash<QString, QString>;
 
-    /** A table as far as it was read. */
+    /** A table as far as it has been read. */
     struct Table
     {
         double rows = 0;
         double columns = 0;
-        double inRow = 0;        ///< columns of the row that is being read
-        double reaching = 0;     ///< columns that reach down from rows above
-        double reachingDown = 0; ///< how many rows further the lowest of those reaches
+        double inRow = 0;        ///< columns of the current row
+        double reaching = 0;     ///< columns covered by spans from rows above
+        double reachingDown = 0; ///< rows below that the longest of those covers
     };
 
     bool atEnd() const { return m_at >= m_html.size(); }

@@ -4,22 +4,23 @@
 #include <QList>
 
 /**
- * Which items of a document are selected, by their index from the lowest to the topmost. Kept as
- * runs of neighbours, so that a selection of everything is as small as one of a single item.
+ * The selected items of a document, by their index from the bottommost to the topmost. Stored as
+ * runs of consecutive indices, so that selecting everything takes as little memory as a single
+ * item.
  */
 class ItemSelection
 {
 public:
-    /** Adds an index, which is larger than those before. */
+    /** Adds an index, which must be larger than all before. */
     void append(qsizetype index);
 
-    /** A bit for each of `count` items, set for the selected ones. */
+    /** One bit for each of `count` items, set for the selected ones. */
     QBitArray toBits(qsizetype count) const;
 
     /** The indices, in order. */
     QList<qsizetype> indices() const;
 
-    /** The bytes that the runs hold. */
+    /** The memory of the runs, in bytes. */
     qsizetype cost() const { return m_runs.size() * qsizetype(sizeof(Run)); }
 
     bool operator==(const ItemSelection &) const = default;

@@ -4,5 +4,5 @@
 
 #include <QByteArray>
 
-/** The lines of a document, of which many states are kept and compared. */
+/** The lines of a document, in a form that is cheap to store in many states and to compare. */
 using LineList = ChunkedList<QByteArray>;

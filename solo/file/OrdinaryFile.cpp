@@ -11,7 +11,7 @@
 
 namespace
 {
-/** What Qt cannot decode of a name it replaces, and then the file is not found by that. */
+/** Qt replaces undecodable bytes of a name, so the file is not found by it. */
 QString reasonOf(int error, const QString &path)
 {
     if (error == ENOENT && path.contains(QChar::ReplacementCharacter))
@@ -20,7 +20,7 @@ QString reasonOf(int error, const QString &path)
     return qt_error_string(error);
 }
 
-/** Why this file is not read; empty for an ordinary one that is not too large. */
+/** Why this file is refused; empty for a regular file that is not too large. */
 QString objectionTo(const struct stat &info, qint64 largest)
 {
     if (S_ISDIR(info.st_mode))
@@ -45,12 +45,12 @@ OrdinaryFile::Contents OrdinaryFile::read(const QString &path, qint64 largest)
     const QByteArray name = QFile::encodeName(path);
     struct stat info
     {};
-    // Even to open a device may do something to it, so what it is comes first.
+    // Check the type first: merely opening a device may have effects.
     if (stat(name.constData(), &info) != 0)
         return Contents{{}, reasonOf(errno, path)};
     if (const QString objection = objectionTo(info, largest); !objection.isEmpty())
         return Contents{{}, objection};
-    // Nobody is waited for if a pipe has taken its place since.
+    // Do not block if it has been replaced with a pipe since.
     const int descriptor = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0)
         return Contents{{}, reasonOf(errno, path)};

@@ -6,19 +6,19 @@
 #include <QString>
 
 /**
- * Reads whole files of the ordinary kind, and links to them. Folders, devices and pipes are
- * refused instead of waited for.
+ * Reads whole regular files, also through symbolic links. Folders, devices and pipes are refused,
+ * so reading never blocks.
  */
 namespace OrdinaryFile
 {
-/** What was read; `error` is empty, or says why nothing was. */
+/** The bytes of a file; `error` is empty on success. */
 struct Contents
 {
     QByteArray bytes;
     QString error;
 };
 
-/** What is wrong with a file of so many bytes; empty if nothing is. */
+/** The error for a file of this size; empty if it is not too large. */
 QString problemOfSize(qint64 bytes, qint64 largest = DocumentLimits::largestFile);
 
 /** Reads a file of at most `largest` bytes. */

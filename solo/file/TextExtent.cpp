@@ -15,10 +15,10 @@ namespace
 {
 constexpr double pixelsPerPoint = 96.0 / 72;
 
-/** A line is not more than this much higher than its letters are said to be. */
+/** The most by which a line is higher than its font size. */
 constexpr double lineSpacing = 1.6;
 
-/** Sizes of letters that go by names are at most this much larger than their surroundings. */
+/** The most by which named font sizes are larger than the surrounding text. */
 constexpr double mostAdjustment = 3;
 
 double pixelsOf(const FontState &font)
@@ -42,7 +42,7 @@ bool isLineEnd(QChar c)
     return c == u'\n' || c == QChar::ParagraphSeparator || c == QChar::LineSeparator;
 }
 
-/** The distance that a property stands for; 0 if it is none. */
+/** The length given by a property; 0 if it is not a length. */
 double lengthOf(int property, const QVariant &value)
 {
     constexpr double indentation = 40;
@@ -78,7 +78,9 @@ void TextExtent::count(const QString &text)
     m_wordSquares += letters * letters;
 }
 
-/** The lines that a paragraph is broken into at most; two in a row are longer than the width. */
+/**
+ * The most lines that a paragraph is wrapped into; two consecutive ones are longer than the width.
+ */
 double TextExtent::linesOf(QStringView paragraph, double pixels) const
 {
     const double own = 1 + double(paragraph.count(QChar::LineSeparator));
@@ -97,7 +99,7 @@ void TextExtent::measurePlain(const TextContent &text)
         m_height += linesOf(line, pixels) * pixels * lineSpacing;
     if (m_height <= DocumentLimits::highestText || m_wordSquares > DocumentLimits::mostWordSquares)
         return;
-    // Much text or large letters: only trying tells.
+    // Much text or a large font: only a real layout can tell.
     QFont font(text.font.family);
     font.setPixelSize(std::max(1, int(std::ceil(pixels))));
     m_height = 0;
@@ -122,7 +124,7 @@ void TextExtent::measureHtml(const TextContent &text)
     measureTables(*document.rootFrame(), 0);
     for (const QTextFormat &format : document.allFormats())
         measureFormat(format);
-    // What stands in tables or lists may have any part of the width.
+    // The contents of tables or lists may have any part of the width.
     if (m_width >= 0 && m_longest > 0)
         m_width = 0;
     double places = 1;
@@ -136,7 +138,7 @@ void TextExtent::measureHtml(const TextContent &text)
         }
         m_height += linesOf(part.text(), pixels) * pixels * lineSpacing * m_perLine;
     }
-    // Above, below and around whatever stands anywhere.
+    // Margins above, below and around everything.
     m_height += 4 * places * m_longest;
 }
 

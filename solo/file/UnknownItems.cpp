@@ -11,7 +11,7 @@
 
 namespace
 {
-/** The class of an item without a row that is the document's, or nothing. */
+/** The class of a document item without a row; empty for any other item. */
 QString unknownClass(const QGraphicsItem &item)
 {
     const DocumentItem *own = DocumentItem::of(&item);

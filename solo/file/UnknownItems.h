@@ -6,14 +6,14 @@
 class QGraphicsItem;
 
 /**
- * Items that belong to the document, for they say so, but of which the catalogue has no row: they
- * can be neither saved nor undone. Other items of embedding programs are none of the document's.
+ * Items that declare themselves part of the document but have no row in the catalogue: they can be
+ * neither saved nor undone. Other items of embedding programs do not belong to the document.
  */
 namespace UnknownItems
 {
-/** The names of the classes of those among `items`, each once. */
+/** The class names of such items among `items`, without duplicates. */
 QStringList classesAmong(const QList<QGraphicsItem *> &items);
 
-/** Logs the class of an item without a row if it is such an item, once for each class. */
+/** Logs the class of `item` if it is such an item, once per class. */
 void report(const QGraphicsItem &item);
 } // namespace UnknownItems

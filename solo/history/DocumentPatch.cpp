@@ -14,7 +14,7 @@ namespace
 {
 using Hunks = QList<UndoHistory::Hunk>;
 
-/** Putting an item below others takes a walk over all of them; from here on building anew wins. */
+/** Stacking an item below others searches all items; for more than this, rebuilding is faster. */
 constexpr qsizetype mostItems = 32;
 
 bool isSmall(const Hunks &hunks)
@@ -25,14 +25,14 @@ bool isSmall(const Hunks &hunks)
     return replaced <= mostItems;
 }
 
-/** True while the user is in the middle of something, which a document taken anew would end. */
+/** True while the user drags an item or edits a text, which a restored document would interrupt. */
 bool isBusy(const TonquillMainWin &window)
 {
     const auto *block = qgraphicsitem_cast<TonquillTextBlock *>(window.scene->focusItem());
     return DocumentSnapshot::isItemHeld(window) || (block && TonquillTextBlock::isEdited(*block));
 }
 
-/** True if the mirror has the lines from before the hunks, as far as those tell. */
+/** True if the mirror has the older lines of the hunks, and as many lines as before them. */
 bool matches(const DocumentMirror &mirror, const Hunks &hunks, qsizetype newerCount)
 {
     const LineList &lines = mirror.document().items;
@@ -46,7 +46,7 @@ bool matches(const DocumentMirror &mirror, const Hunks &hunks, qsizetype newerCo
     });
 }
 
-/** The states of all newer lines, hunk by hunk; nothing if one cannot be read. */
+/** The states of all newer lines, hunk by hunk; nullopt if one cannot be read. */
 std::optional<QList<ItemState>> newStates(const Hunks &hunks)
 {
     QList<ItemState> states;
@@ -72,7 +72,7 @@ bool DocumentPatch::apply(TonquillMainWin &window, DocumentMirror &mirror, const
     if (!states || !matches(mirror, hunks, wanted.items.size()))
         return false;
 
-    // Which items they are is asked before the first one comes.
+    // Look up all items before adding the first one.
     QList<QGraphicsItem *> replaced;
     QList<QGraphicsItem *> following;
     for (const UndoHistory::Hunk &hunk : hunks) {
@@ -85,7 +85,7 @@ bool DocumentPatch::apply(TonquillMainWin &window, DocumentMirror &mirror, const
     for (qsizetype i = 0; i < hunks.size(); ++i) {
         for (qsizetype n = 0; n < hunks[i].newer.size(); ++n) {
             QGraphicsItem *item = window.scene->buildItem(*state++);
-            // It is on top of all of its height.
+            // It is the topmost of its z value.
             if (following[i] && following[i]->zValue() == item->zValue())
                 window.scene->stackBelow(*item, *following[i]);
         }

@@ -6,19 +6,19 @@ class DocumentMirror;
 class TonquillMainWin;
 
 /**
- * Goes from one state of the document to the next by replacing only the items whose lines differ.
- * The others stay as they are but for being selected or not.
+ * Changes one state of the document to another by replacing only the items whose lines differ. Of
+ * the others, only the selection changes.
  */
 namespace DocumentPatch
 {
 /**
- * Replaces the items of the hunks' older lines by items of the newer ones, which makes the
- * window's document `wanted`, and selects exactly the items of the selection. The mirror, which
- * tells the items of lines, is up to date then.
+ * Replaces the items of the hunks' older lines with items of the newer ones, which turns the
+ * window's document into `wanted`, and selects exactly the items of the selection. Updates the
+ * mirror, which maps lines to items.
  *
- * False if nothing was changed: there is too much to replace, something is being placed, moved or
- * typed, or the window does not show the older lines. DocumentSnapshot::restore() is always
- * possible.
+ * Returns false and changes nothing if there is too much to replace, if an item is being placed,
+ * moved or edited, or if the window does not show the older lines. DocumentSnapshot::restore()
+ * always works.
  */
 bool apply(TonquillMainWin &window, DocumentMirror &mirror, const QList<UndoHistory::Hunk> &hunks,
            const DocumentSnapshot &wanted, const ItemSelection &selection);

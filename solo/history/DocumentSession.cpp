@@ -13,8 +13,8 @@
 
 namespace
 {
-// Milliseconds. An edit reaches the journal within a second; the more a large document takes to
-// be written, the rarer that is done while a gesture goes on.
+// Milliseconds. An edit reaches the journal within a second; the longer a document takes to write,
+// the less often it is written during a gesture.
 constexpr int shortestDelay = 300;
 constexpr int longestDelay = 800;
 constexpr int delayPerCost = 4;
@@ -84,7 +84,7 @@ void DocumentSession::begin(const DocumentSnapshot &document, bool differsFromFi
     m_window.view()->verticalScrollBar()->setValue(0);
     m_window.onViewScroll(m_window.view()->curScenePos());
     m_edits.reset();
-    // As the program itself reads it from the window, so that opening a file changes nothing.
+    // As captured from the window, so that opening a file does not count as a change.
     m_saved = m_edits.document();
     Q_EMIT changed();
 }
@@ -184,7 +184,7 @@ void DocumentSession::writeJournal()
     }
     QElapsedTimer cost;
     cost.start();
-    // Not only finished edits: a long gesture must not be lost either.
+    // Include unfinished edits: a long gesture must not be lost either.
     const DocumentSnapshot now = m_edits.documentNow();
     if (now == m_saved && !m_differsFromFile) {
         m_journal.discard();

@@ -10,79 +10,84 @@
 class TonquillMainWin;
 
 /**
- * The document that is open: which file it is, whether it differs from that file, and its journal
- * for the case of a crash. Asks the user nothing.
+ * The open document: its file, whether it differs from the file, and its recovery journal. Shows no
+ * dialogs.
  */
 class DocumentSession : public QObject
 {
     Q_OBJECT
 
 public:
-    /** Works on `window`, which outlives the session; the journal lies in `folder`. */
+    /** Works on `window`, which outlives the session; the journal is stored in `folder`. */
     DocumentSession(TonquillMainWin &window, const QString &folder);
 
     EditWatcher &edits() { return m_edits; }
     RecoveryJournal &journal() { return m_journal; }
 
-    /** The file, or empty for a document that has none yet. */
+    /** The document's file; empty if it has none yet. */
     QString path() const { return m_path; }
 
-    /** The file that the document was read from, its own or not; empty if there is none. */
+    /**
+     * The file from which the document was read, even if it is not path(); empty if there is none.
+     */
     QString source() const;
 
-    /** True if what is shown comes from this file, by whatever name it goes. */
+    /** True if the document was read from this file, even under another name. */
     bool comesFrom(const QString &path) const;
 
-    /** What other programs have made of the file since it was read or saved. */
+    /** How other programs have changed the file since it was read or saved. */
     FileStamp::Change fileChange();
 
-    /** The same, but only if nobody has asked since it happened. */
+    /** The same, but reports each change only once. */
     FileStamp::Change newFileChange();
 
-    /** The file's name, or what an unnamed document is called. */
+    /** The file's name, or the name of an unnamed document. */
     QString name() const;
 
-    /** True if something would be lost without saving. */
+    /** True if there are unsaved changes. */
     bool isModified() const;
 
-    /** The classes of items in the document that no file can hold, for nobody knows how. */
+    /** The classes of items in the document that cannot be saved, see UnknownItems. */
     QStringList unknownClasses() const;
 
-    /** The paper of documents that bring none. */
+    /** The paper of documents without their own. */
     const Paper &defaultPaper() const { return m_empty.paper; }
 
-    /** An empty document without a file. */
+    /** Starts an empty document without a file. */
     void makeNew();
 
-    /** Shows all that was read from the file `path`, which is this one. */
+    /** Shows a document that was read completely from the file `path`; `file` is its state then. */
     void show(const DocumentSnapshot &document, const QString &path, const FileStamp &file);
 
     /**
-     * Shows a document that has no file yet, so that none is replaced by it unasked. `origin` is
-     * the name that is suggested for it, or the path of what it was read from.
+     * Shows a document without a file, so saving asks for a name. `origin` is the suggested name,
+     * or the path from which it was read.
      */
     void showUnnamed(const DocumentSnapshot &document, const QString &origin, bool isModified);
 
-    /** Shows what a former run left behind; it counts as unsaved. */
+    /** Shows the document of a previous run's journal; it counts as unsaved. */
     void showRecovered(const RecoveryJournal::Found &found);
 
-    /** The file is no longer what the window shows, whatever is edited. */
+    /** Marks the document as modified, even if later edits restore the saved state. */
     void markUnsaved();
 
-    /** Saves to `path`, which becomes the document's file. The answer is empty, or an error. */
+    /**
+     * Saves to `path`, which becomes the document's file. Returns an empty string on success, else
+     * the error.
+     */
     QString saveAs(const QString &path);
 
-    /** Finds out whether unsaved changes can be kept; if not, journalFailed() is emitted. */
+    /** Checks whether the journal can be written; if not, emits journalFailed(). */
     void tryJournal();
 
-    /** Ends the session: nothing is kept for recovery. */
+    /** Ends the session and removes the journal. */
     void close();
 
 Q_SIGNALS:
-    /** The file, its name or whether it is modified may be another. */
+    /** The file, its name or the modified state may have changed. */
     void changed();
 
-    /** Unsaved changes cannot be kept for recovery. Told once until they can be kept again. */
+    /** The journal cannot be written. Emitted once until it can be written again. */
     void journalFailed(QString reason);
 
 private:
@@ -96,13 +101,14 @@ private:
     RecoveryJournal m_journal;
     QTimer m_journalDue;
     QString m_path;
-    QString m_origin;         ///< of an unnamed document: what it was read from, or a mere name
-    FileStamp m_file;         ///< as it was read or saved
-    FileStamp m_seenFile;     ///< as it was when it was last looked at
+    QString m_origin;         ///< of an unnamed document: the path from which it was read, or a
+                              ///< name
+    FileStamp m_file;         ///< when it was read or saved
+    FileStamp m_seenFile;     ///< when it was last checked
     DocumentSnapshot m_empty; ///< the document of a new window
     DocumentSnapshot m_saved; ///< what the file holds
     DocumentSnapshot m_journalled;
-    bool m_differsFromFile = false; ///< whatever is edited: it was recovered, or read in part
+    bool m_differsFromFile = false; ///< always modified: recovered or read in part
     bool m_isJournalTroubleTold = false;
     bool m_closed = false;
 };

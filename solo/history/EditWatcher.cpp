@@ -27,7 +27,7 @@ bool isAutoRepeat(const QEvent &event)
     return static_cast<const QKeyEvent &>(event).isAutoRepeat();
 }
 
-/** True if an edit may be complete once this event is dealt with. */
+/** True if an edit may be complete once this event has been handled. */
 bool endsEdit(const QObject &watched, const QEvent &event)
 {
     switch (event.type()) {
@@ -57,7 +57,7 @@ bool isInput(const QEvent &event)
     }
 }
 
-/** True if this event may change the document, which it has not done yet. */
+/** True if this event, not yet handled, may change the document. */
 bool beginsEdit(const QEvent &event)
 {
     return event.type() == QEvent::MouseButtonPress ||
@@ -110,13 +110,13 @@ const DocumentSnapshot &EditWatcher::documentNow()
     return m_mirror.document();
 }
 
-/** What is selected now, of the document as the mirror has it. */
+/** The current selection, in indices of the mirror's document. */
 ItemSelection EditWatcher::selection() const
 {
     return m_mirror.selectionOf(m_window.scene->selectedItems());
 }
 
-/** What is selected while the document is still as it was at the last check. */
+/** Notes the selection while the document is unchanged since the last check. */
 void EditWatcher::noteSelection()
 {
     if (!m_selectionChanged || m_soon.isActive())
@@ -125,7 +125,7 @@ void EditWatcher::noteSelection()
     m_selectionChanged = false;
 }
 
-/** What is selected now is the selection of the current state. */
+/** Stores the current selection with the current state. */
 void EditWatcher::rememberSelection()
 {
     m_history.select(selection());
@@ -133,7 +133,7 @@ void EditWatcher::rememberSelection()
     m_selectionChanged = false;
 }
 
-/** True if no item came or went, and those that are another way now are all selected. */
+/** True if no items were added or removed and all changed ones are selected. */
 bool EditWatcher::isEditOfSelection() const
 {
     const DocumentSnapshot &older = m_history.current();
@@ -154,12 +154,12 @@ void EditWatcher::check()
     if (DocumentSnapshot::isItemHeld(m_window))
         return;
     if (documentNow() == m_history.current()) {
-        // To ask about what is selected would make a key that changes nothing slower.
+        // Query the selection only if needed: this also runs for keys that change nothing.
         if (m_selectionChanged || m_noted)
             rememberSelection();
         return;
     }
-    // A drag often begins with the press that selects what it moves, and nobody saw that alone.
+    // A drag often begins with the press that selects its items; take that selection.
     if (isEditOfSelection())
         m_history.select(selection());
     else if (m_noted)
@@ -204,7 +204,7 @@ void EditWatcher::showCurrent()
     const ItemSelection selected = m_history.selection();
     if (!DocumentPatch::apply(m_window, m_mirror, m_history.lastHunks(), wanted, selected))
         wanted.restore(m_window, selected);
-    // What Qt tells differently after rebuilding, such as formatted text, is no edit.
+    // Differences after rebuilding, such as in Qt's formatted text, are not edits.
     m_history.adopt(documentNow());
     rememberSelection();
     Q_EMIT documentChanged();

@@ -13,15 +13,15 @@
 class TonquillMainWin;
 
 /**
- * Finds out what the user's edits are, and takes them back.
+ * Detects the user's edits, and undoes and redoes them.
  *
- * The editor reports finished pointer edits and deletions only, so after everything that can end
- * an edit the document is compared with the last known state: the editor's messages, the release of
- * a key or button, a closed menu or dialog, a change of focus. A run of typing in one block is
- * one step, and so is a key that is held down.
+ * The editor reports finished pointer edits and deletions only, so after everything that can end an
+ * edit the document is compared with the last known state: the editor's messages, the release of a
+ * key or button, a closed menu or dialog, a change of focus. A run of typing in one block is one
+ * step, and so is a key that is held down.
  *
- * What is selected is no edit, but is kept with each state: undo and redo select what was selected
- * when the document was last like that.
+ * Selecting is not an edit, but each state keeps its selection: undo and redo restore the selection
+ * that the document last had in that state.
  */
 class EditWatcher : public QObject
 {
@@ -31,13 +31,13 @@ public:
     /** Watches `window`, which outlives the watcher. */
     explicit EditWatcher(TonquillMainWin &window);
 
-    /** Begins anew with what the window shows; no steps. */
+    /** Restarts with the document in the window, without steps. */
     void reset();
 
     /** The document after the last finished edit. */
     const DocumentSnapshot &document() const { return m_history.current(); }
 
-    /** The document as it is now, in the middle of an edit or not. */
+    /** The current document, including an unfinished edit; valid until the next change. */
     const DocumentSnapshot &documentNow();
 
     /** Goes one step back or forward; false if there is none. */
@@ -45,17 +45,17 @@ public:
     bool redo();
 
 public Q_SLOTS:
-    /** Records what has changed, unless the pointer is holding an item. */
+    /** Records changes as a step, unless the pointer is holding an item. */
     void check();
 
-    /** Checks as soon as the events at hand are dealt with. */
+    /** Calls check() once the pending events have been handled. */
     void checkSoon();
 
 Q_SIGNALS:
-    /** The document is another one: after an edit, undo, redo or reset. */
+    /** The document changed by an edit, undo, redo or reset. */
     void documentChanged();
 
-    /** The user did something that may become an edit. */
+    /** There was input that may become an edit. */
     void touched();
 
 protected:
@@ -73,8 +73,9 @@ private:
     DocumentMirror m_mirror;
     UndoHistory m_history;
     QTimer m_soon;
-    QPointer<QObject> m_typedIn; ///< the block that the last step typed in
+    QPointer<QObject> m_typedIn; ///< the block in which the last step typed
     QElapsedTimer m_sinceTyped;
-    std::optional<ItemSelection> m_noted; ///< in the current state, later than the history knows
-    bool m_selectionChanged = false;      ///< since it was noted or remembered
+    std::optional<ItemSelection> m_noted; ///< newer selection of the current state than in the
+                                          ///< history
+    bool m_selectionChanged = false;      ///< since it was noted or stored
 };

@@ -14,7 +14,7 @@ namespace
 {
 const QByteArray header = QByteArrayLiteral("tonquill-recovery ");
 
-/** A document as large as any, and the journal's first line. */
+/** The largest document plus the journal's first line. */
 constexpr qint64 largestJournal = DocumentLimits::largestFile + 64 * 1024;
 
 constexpr QFile::Permissions ownersFolder = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
@@ -74,7 +74,7 @@ QString RecoveryJournal::keepCopy() const
         info.path() + info.lastModified().toString(QStringLiteral("'/recovery-'yyyyMMdd-HHmmss"));
     QString copy = begin + QStringLiteral(".tonquill");
     for (int i = 2; QFileInfo::exists(copy); ++i) {
-        // A start that was cut short has made it already.
+        // An interrupted start has already made it.
         if (OrdinaryFile::read(copy, largestJournal).bytes == contents.bytes)
             return copy;
         copy = QStringLiteral("%1-%2.tonquill").arg(begin).arg(i);

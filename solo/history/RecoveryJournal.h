@@ -9,60 +9,63 @@
 #include <optional>
 
 /**
- * The unsaved document on disk, for the next start after a crash. Each write replaces the journal
- * atomically, so a crash in the middle leaves the one before.
+ * Stores the unsaved document on disk, for the next start after a crash. Each write replaces the
+ * journal atomically, so a crash while writing leaves the previous one.
  *
- * What a former run left behind is neither written over nor removed before it was decided what
- * becomes of it.
+ * The journal of a previous run is neither overwritten nor removed until takeOver() is called.
  */
 class RecoveryJournal
 {
     Q_DECLARE_TR_FUNCTIONS(RecoveryJournal)
 
 public:
-    /** What a program that ended unexpectedly left behind. */
+    /** The contents of the journal of a run that ended unexpectedly. */
     struct Found
     {
-        QString path; ///< the file that was being edited, or empty
+        QString path; ///< the edited file; empty if none
         QDateTime time;
         DocumentSnapshot document;
-        QByteArray contents; ///< the hash of that file as it was known, or empty
-        QString problems;    ///< what could not be read, as a text; empty if that is nothing
+        QByteArray contents; ///< the last known hash of that file; empty if none
+        QString problems;    ///< what could not be read; empty if nothing
     };
 
-    /** Keeps the journal in `folder`, which is made when first needed. */
+    /** Stores the journal in `folder`, which is created when first needed. */
     explicit RecoveryJournal(const QString &folder);
 
-    /** Makes the folder, for this user only. The answer is empty, or says why nothing can be kept.
+    /**
+     * Creates the folder with access for this user only. Returns an empty string on success, else
+     * the error.
      */
     QString prepare() const;
 
     /**
-     * Writes the document that is edited as the file `path`, whose contents have this hash. False
-     * if that failed, and while a former run's journal is undecided.
+     * Writes the document, which is edited as the file `path` whose contents have this hash.
+     * Returns false on failure, see error(), and while isUndecided().
      */
     bool write(const DocumentSnapshot &document, const QString &path,
                const QByteArray &contents = QByteArray());
 
-    /** Why the last write failed; empty if it did not. */
+    /** The error of the last write; empty on success. */
     QString error() const { return m_error; }
 
-    /** The journal of a former run, if there is one that can be read, at least in part. */
+    /**
+     * The journal of a previous run; nullopt if there is none that can be read at least in part.
+     */
     std::optional<Found> find(const Paper &defaultPaper) const;
 
-    /** True while it is not decided what becomes of a former run's journal. */
+    /** True while the user has not decided about the journal of a previous run. */
     bool isUndecided() const { return m_isUndecided; }
 
-    /** To be called once that is decided: the journal is this run's from now on. */
+    /** To be called after that decision: from now on the journal belongs to this run. */
     void takeOver() { m_isUndecided = false; }
 
-    /** Copies the journal to another name in its folder; the answer is empty if that failed. */
+    /** Copies the journal to another name in its folder; returns the path, empty on failure. */
     QString keepCopy() const;
 
-    /** The journal's file. */
+    /** The path of the journal. */
     QString file() const { return m_file; }
 
-    /** Removes the journal: nothing is unsaved. */
+    /** Removes the journal, because there are no unsaved changes. */
     void discard();
 
 private:

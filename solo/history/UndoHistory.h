@@ -6,17 +6,16 @@
 #include <QList>
 
 /**
- * The states that a document went through, each with the selection that it had last. A step keeps
- * only the lines that it changed, and those are shared with the states on both sides of it. Pure
- * values: no window, no scene.
+ * The states of a document, each with its last selection. A step stores only the lines that it
+ * changed, shared with the states before and after it. Pure values without windows or scenes.
  */
 class UndoHistory
 {
 public:
-    /** At most this many bytes are kept in steps; the oldest steps go first. */
+    /** The maximum memory of all steps, in bytes; the oldest steps are dropped first. */
     static constexpr qsizetype defaultBound = 256 * 1024 * 1024;
 
-    /** Lines from the index `at` on, and those that replaced them. */
+    /** Lines from the index `at` on, and their replacement. */
     struct Hunk
     {
         qsizetype at = 0;
@@ -28,56 +27,56 @@ public:
         : m_bound(bound)
     {}
 
-    /** Begins anew with this state; no steps, and nothing selected. */
+    /** Restarts with this state, without steps or selection. */
     void reset(const DocumentSnapshot &state);
 
-    /** The state that the document is in. */
+    /** The current state of the document. */
     const DocumentSnapshot &current() const { return m_current; }
 
-    /** What is selected in the current state, as far as it was told. */
+    /** The selection of the current state, as set by select(). */
     const ItemSelection &selection() const { return m_selection; }
 
-    /** Tells what is selected in the current state. */
+    /** Sets the selection of the current state. */
     void select(const ItemSelection &selection) { m_selection = selection; }
 
     /**
-     * Takes over the state after an edit; false if it is no other than the current one. With
-     * `sameGesture` it joins the last step, if there is one and nothing was undone since. What
-     * is selected in the new state remains to be told.
+     * Records the state after an edit; returns false if it equals the current one. With
+     * `sameGesture` it is merged into the last step, if there is one and nothing was undone since.
+     * The selection of the new state is to be set with select().
      */
     bool record(const DocumentSnapshot &state, bool sameGesture = false);
 
-    /** Takes this for the current state, without a step, if it has as many items. */
+    /** Replaces the current state without a step, if the number of items is the same. */
     void adopt(const DocumentSnapshot &state);
 
     bool canUndo() const { return !m_undo.isEmpty(); }
     bool canRedo() const { return !m_redo.isEmpty(); }
 
-    /** Goes a step back. Callers check that there is one. */
+    /** Goes one step back. Callers check canUndo(). */
     void undo();
-    /** Goes a step forward again. Callers check that there is one. */
+    /** Goes one step forward. Callers check canRedo(). */
     void redo();
 
     /**
-     * What the last undo() or redo() replaced: several hunks with as many newer lines as older
-     * ones and other lines between them, or a single one.
+     * The changes of the last undo() or redo(): several separate hunks with equal numbers of older
+     * and newer lines, or a single one.
      */
     const QList<Hunk> &lastHunks() const { return m_lastApplied.hunks; }
 
-    /** The bytes that the steps hold. */
+    /** The memory of all steps, in bytes. */
     qsizetype cost() const { return m_cost; }
 
 private:
     /**
-     * The way between two neighbouring states: one hunk if lines came or went, otherwise one for
-     * each run of lines that changed.
+     * The difference between two consecutive states: one hunk if the number of lines differs,
+     * otherwise one for each run of changed lines.
      */
     struct Step
     {
         int olderPageCount = 0;
         int newerPageCount = 0;
         QList<Hunk> hunks;
-        ItemSelection selection; ///< of the state that the step leads to, back or forward
+        ItemSelection selection; ///< of the state to which the step leads, back or forward
         qsizetype cost() const;
     };
 
@@ -94,5 +93,5 @@ private:
     ItemSelection m_selection;
     QList<Step> m_undo;
     QList<Step> m_redo;
-    Step m_lastApplied; ///< as it was gone through, from `older` to `newer`
+    Step m_lastApplied; ///< in the direction in which it was applied, from `older` to `newer`
 };
