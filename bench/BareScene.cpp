@@ -9,7 +9,7 @@
 
 namespace
 {
-/** Stands for a selection frame: a child that paints nothing. */
+/** Replaces a selection frame: a child that paints nothing. */
 class BareChild : public QGraphicsItem
 {
 public:
@@ -18,7 +18,7 @@ public:
     void paint(QPainter *, const QStyleOptionGraphicsItem *, QWidget *) override {}
 };
 
-/** A bare figure or time signature. */
+/** Replaces a figure or time signature. */
 class BareObject : public QGraphicsObject
 {
 public:

@@ -7,25 +7,25 @@
 #include <QGraphicsScene>
 
 /**
- * The floor of most rows: a plain Qt scene with the items' Qt classes, each with one
- * child, and with nothing of the editor.
+ * The baseline of most rows: a plain Qt scene with items of the same Qt classes, each with one
+ * child, without any code of the editor.
  */
 class BareScene : public QGraphicsScene
 {
 public:
-    /** Pixmap items as Qt has them, or ones that are QObjects with a slot as well. */
+    /** Qt's pixmap items, or pixmap items that are also QObjects with a slot. */
     enum class Glyphs { Plain, CallableByName };
 
-    /** Empty, as large as the pages that `count` items take. */
+    /** An empty scene as large as the pages for `count` items. */
     explicit BareScene(int count, Glyphs glyphs = Glyphs::CallableByName);
     ~BareScene() override;
 
     void addBareItems(const SampleDocument::Samples &samples);
 
-    /** The items without their children, in the order in which they were added. */
+    /** The items without their children, in the order of their addition; owned by the scene. */
     const QList<QGraphicsItem *> &bareItems() const { return m_items; }
 
-    /** Has Qt do what it puts off until the next event and the next painting. */
+    /** Runs the work that Qt defers to the event loop and the next paint. */
     void settle();
 
 private:
@@ -35,7 +35,7 @@ private:
     QList<QGraphicsItem *> m_items;
 };
 
-/** A bare pixmap item that can be called by name. */
+/** A pixmap item with a slot that can be called by name. */
 class BareGlyphObject : public QObject, public QGraphicsPixmapItem
 {
     Q_OBJECT

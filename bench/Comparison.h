@@ -4,12 +4,12 @@
 #include <string>
 #include <vector>
 
-/** What one side of a comparison costs for a document of `count` items: seconds or bytes. */
+/** Measures one side of a comparison for a document of `count` items, in seconds or bytes. */
 using Measure = std::function<double(int count)>;
 
 enum class Unit { Seconds, Bytes };
 
-/** One operation of the editor beside its floor: the least that Qt lets it cost. */
+/** One operation of the editor and its floor: the minimum cost with Qt. */
 struct Comparison
 {
     std::string operation;
@@ -19,25 +19,25 @@ struct Comparison
     Unit unit = Unit::Seconds;
 };
 
-/** Has both sides measured, in turn, when the benchmarks run. */
+/** Registers a comparison; both sides are measured alternately when the benchmarks run. */
 void compare(const Comparison &comparison);
 
-/** The operations that are compared, in the order in which they were given. */
+/** The compared operations in the order of their registration. */
 const std::vector<std::string> &comparedOperations();
 
-/** From now on the comparisons are made with this number of items only. */
+/** Restricts all later comparisons to this number of items. */
 void compareOnlyWith(int count);
 
 /**
- * The CPU time that `work` takes in the calling thread: neither other programs on the machine
- * nor the host's thread count. Seconds. A profiler is told to look at this function only.
+ * The CPU time of `work` in seconds, only in the calling thread: other programs and the host's
+ * thread are not included. Profilers can be restricted to this function.
  */
 double cpuSeconds(const std::function<void()> &work);
 
-/** The same for one of `times` runs of a `work` that is too short to be timed alone. */
+/** The average of `times` runs, for `work` that is too short to be timed alone. */
 double cpuSecondsOfOne(int times, const std::function<void()> &work);
 
-/** Under these names the reporter finds what a benchmark measured. */
+/** The names under which the reporter finds a benchmark's results. */
 namespace Measured
 {
 inline constexpr const char *value = "measured";

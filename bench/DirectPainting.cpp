@@ -9,7 +9,7 @@
 
 namespace
 {
-/** The outline of a figure that is made of lines. */
+/** The lines of a figure that consists of lines. */
 QList<QLine> linesOf(Kind kind, QPoint end)
 {
     switch (kind) {

@@ -4,7 +4,7 @@
 
 class QPainter;
 
-/** The floor of painting: the same lines, texts and images, painted with nothing in between. */
+/** The baseline of painting: the same lines, texts and images, painted directly. */
 namespace DirectPainting
 {
 /** Paints an item of this kind at the painter's origin. */

@@ -53,13 +53,13 @@ double clearBare(int count)
     return cpuSeconds([&] { scene.clear(); });
 }
 
-/** As a key does it, without a host. */
+/** Like the Delete key, without a host. */
 double deleteEverySecondItem(int count)
 {
     Editor editor;
     editor.load(SampleDocument::glyphs(count));
     const QList<QGraphicsItem *> items = editor.scene().items();
-    // Every item is followed by its frame.
+    // Each item is followed by its frame in the list.
     for (qsizetype i = 0; i < items.size(); i += 4)
         items[i]->topLevelItem()->setSelected(true);
     QKeyEvent release(QEvent::KeyRelease, Qt::Key_Delete, Qt::NoModifier);

@@ -10,17 +10,17 @@
 
 namespace
 {
-/** What the pointer and arrow rows are held against has this many items. */
+/** The number of items in the baseline of the pointer and arrow rows. */
 constexpr int fewItems = 100;
 constexpr int steps = 1000;
 
-/** On its way across the page the pointer meets as many items as in the document of few. */
+/** A path of the pointer that crosses as many items as in the baseline's document. */
 QPointF onTheWay(int step)
 {
     return QPointF(step % 600, 100);
 }
 
-/** From the left button's release to the last byte given to the system. */
+/** From the release of the left button to the last byte handed to the system. */
 double finishEdit(int count)
 {
     Editor editor;
@@ -29,7 +29,7 @@ double finishEdit(int count)
     ScenePointer pointer(editor.scene());
     const QPointF paper(2, 2);
     pointer.press(paper);
-    pointer.release(paper); // ends a rubber band, which sends nothing
+    pointer.release(paper); // ends a rubber-band selection, which sends nothing
     return cpuSeconds([&] {
         pointer.release(paper);
         editor.writeOut();
@@ -65,7 +65,7 @@ QRectF allPages(int count)
 
 using Area = QRectF (*)(int count);
 
-/** The release of a rubber band. */
+/** The release of a rubber-band selection. */
 double rubberBand(int count, Area area)
 {
     Editor editor;
@@ -102,7 +102,7 @@ void selectOneItem(Editor &editor)
         ->setSelected(true);
 }
 
-/** A move of the pointer over the page, with one item selected and no button held. */
+/** One move of the pointer over the page, with one item selected and no button held. */
 double movePointer(int count)
 {
     Editor editor;
@@ -113,7 +113,7 @@ double movePointer(int count)
     return cpuSecondsOfOne(steps, [&] { pointer.moveTo(onTheWay(step++)); });
 }
 
-/** A move of the pointer that drags the selected item. */
+/** One move of the pointer that drags the selected item. */
 double dragItem(int count)
 {
     Editor editor;

@@ -22,7 +22,7 @@ Editor::~Editor()
         window().socket.disconnectFromServer();
         m_host.reset();
     }
-    // First what Qt puts off: it looks for each item that goes among all that still wait.
+    // Run Qt's deferred work first: it would search all pending items for each deleted one.
     QCoreApplication::processEvents();
     scene().clearScene();
     QCoreApplication::processEvents();

@@ -10,8 +10,8 @@
 #include <memory>
 
 /**
- * The editor that is measured: the one main window of this process. Every object of this class
- * starts with an empty document and leaves none behind.
+ * The measured editor: the only main window of this process. Each object of this class starts with
+ * an empty document and clears it on destruction.
  */
 class Editor
 {
@@ -22,20 +22,20 @@ public:
     TonquillMainWin &window() { return *g_pMainWin; }
     TonquillScene &scene() { return *g_pMainWin->scene; }
 
-    /** Builds the document from its records, lays its pages and shows it for the first time. */
+    /** Builds the document from its records, adds its pages and paints it once. */
     void load(const SampleDocument::Samples &samples);
 
-    /** Has Qt do what it puts off until the next event and the next painting. */
+    /** Runs the work that Qt defers to the event loop and the next paint. */
     void settle();
 
-    /** Connects the window with a host. */
+    /** Connects the window to a host. */
     void connectToHost();
     HostThread &host() { return *m_host; }
 
-    /** Handles events until the host's document stands on the scene, whose `old` item then goes. */
+    /** Handles events until the host's document is on the scene, which deletes the item `old`. */
     void receiveDocumentInPlaceOf(const QPointer<QObject> &old);
 
-    /** Handles events until all that the editor wrote is with the system. */
+    /** Handles events until everything the editor wrote has been handed to the system. */
     void writeOut();
 
 private:

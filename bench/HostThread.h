@@ -6,19 +6,19 @@
 #include <QThread>
 
 /**
- * A host in a thread of its own, so that its work is not counted with the editor's. It takes one
- * connection, writes what it is given in one call, and reads everything that the editor sends.
+ * A host in its own thread, so that its work is not counted with the editor's. It accepts one
+ * connection, writes each message in one call, and reads everything from the editor.
  */
 class HostThread : public QThread
 {
     Q_OBJECT
 
 public:
-    /** Listens on the host's name; the editor may connect as soon as this returns. */
+    /** Listens on the host's name; the editor may connect once this returns. */
     HostThread();
     ~HostThread() override;
 
-    /** Has `message` written to the editor. */
+    /** Makes the thread write `message` to the editor. */
     void send(const QByteArray &message);
 
 protected:

@@ -7,7 +7,7 @@
 
 namespace
 {
-/** Items as the kind's example says, one after the other, each written as its line. */
+/** Builds items from the kind's example one by one, and writes each as its line. */
 double buildAndWrite(const ItemKind &kind, int count)
 {
     const auto state = ItemKinds::catalogue().readLine(kind.example);
@@ -22,7 +22,7 @@ double buildAndWrite(const ItemKind &kind, int count)
     });
 }
 
-/** Plain items with a child each, and as many bytes. */
+/** Builds plain items with one child each, and copies as many bytes. */
 double buildBare(const ItemKind &kind, int count)
 {
     const QByteArray line = kind.example.toUtf8();

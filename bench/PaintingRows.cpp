@@ -23,13 +23,13 @@ void setZoom(QGraphicsView &view, Zoom zoom)
     view.centerOn(view.sceneRect().center());
 }
 
-/** One painting of the whole viewport. */
+/** One repaint of the whole viewport. */
 double repaint(QGraphicsView &view, Zoom zoom)
 {
     setZoom(view, zoom);
     QImage image(view.viewport()->size(), QImage::Format_ARGB32_Premultiplied);
     const auto paint = [&] { view.viewport()->render(&image); };
-    paint(); // loads what is loaded once
+    paint(); // loads everything that is loaded only once
     return cpuSecondsOfOne(repaints, paint);
 }
 

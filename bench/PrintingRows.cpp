@@ -11,7 +11,7 @@ namespace
 {
 constexpr int itemsOnPage = 100;
 
-/** A printer that writes into a file which goes with it. */
+/** A printer to a file that is deleted with it. */
 struct FilePrinter
 {
     FilePrinter()

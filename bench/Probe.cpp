@@ -39,7 +39,7 @@ QByteArray outputOf(const QString &name, int count)
         {"--" + Probe::option().names().constFirst(), name + u':' + QString::number(count)});
 }
 
-/** The CPU time of all child processes that have ended. */
+/** The CPU time of all finished child processes, in seconds. */
 double childrensSeconds()
 {
     rusage usage{};

@@ -8,37 +8,37 @@
 
 /**
  * Measurements that need a process of their own: this program starts itself with the name of a
- * probe, which does its work there and prints one number.
+ * probe, which runs there and prints one number.
  */
 namespace Probe
 {
-/** The work of a probe. */
+/** The function of a probe; returns its result. */
 using Work = std::function<double(int count)>;
 
-/** Makes a probe known. */
+/** Registers a probe. */
 void add(const QString &name, const Work &work);
 
-/** The option with which this program is started as a probe. */
+/** The command line option that starts this program as a probe. */
 const QCommandLineOption &option();
 
-/** Does the work that the option's value names. The exit code of the process. */
+/** Runs the probe named in the option's value. Returns the exit code of the process. */
 int run(const QString &optionValue);
 
-/** The number that the probe prints when it is run in a process of its own. */
+/** Runs the probe in a process of its own and returns the number that it prints. */
 double valueOf(const QString &name, int count);
 
-/** The CPU time that such a process takes in all, from exec to exit. Seconds. */
+/** The total CPU time of such a process from exec to exit, in seconds. */
 double cpuSecondsOf(const QString &name, int count);
 
-/** The same for one of the programs that were built beside this one. */
+/** The same for a program in the folder of this one. */
 double cpuSecondsOfProgram(const QString &program, const QStringList &arguments);
 
-/** The memory of this process that is in use now. */
+/** The current resident memory of this process, in bytes. */
 double residentBytes();
 
-/** Makes `path` the folder of files for the probes, unless this process is one. */
+/** Sets the folder of files for the probes, unless this process is a probe. */
 void shareFolder(const QString &path);
 
-/** The folder that was shared, the same in this process and its probes. */
+/** The shared folder, which is the same in this process and its probes. */
 QString sharedFolder();
 } // namespace Probe

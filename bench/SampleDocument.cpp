@@ -13,7 +13,7 @@ constexpr QPoint firstOnPage(45, 45);
 constexpr int columnWidth = 32;
 constexpr int rowHeight = 37;
 
-/** The place of item `index` of those on page `page`, which counts from 0. */
+/** The position of item `index` on page `page`, both from 0, in scene units. */
 QPoint placeOnPage(int page, int index)
 {
     const int top = static_cast<int>(page * g_pMainWin->scene->pagePitch());

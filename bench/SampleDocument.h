@@ -10,7 +10,7 @@
 /** The nine kinds of items. */
 enum class Kind { Glyph, TimeSig, Grandstaff, Line, LineTab, Tie, Triplet, Text, TextBlock };
 
-/** One item of a sample document: what it is and where it stands (scene units). */
+/** One item of a sample document: its kind and its position (scene units). */
 struct Sample
 {
     Kind kind;
@@ -18,35 +18,35 @@ struct Sample
 };
 
 /**
- * Documents to measure with: items in rows and columns, page after page, as a written-out score
- * has them. The same samples are built by the editor from records and by a BareScene.
+ * Documents for the measurements: items in rows and columns, page after page, as in a full score.
+ * The editor builds them from records, and BareScene as plain items.
  */
 namespace SampleDocument
 {
 using Samples = std::vector<Sample>;
 
-/** As many items stand on each page but the last. */
+/** The number of items on each page except the last. */
 inline constexpr int itemsPerPage = 500;
 
 Samples glyphs(int count);
-/** The nine kinds in turn. */
+/** `count` items, alternating between the nine kinds. */
 Samples mix(int count);
-/** The nine kinds in turn on `pages` pages, `perPage` on each. */
+/** `perPage` items on each of `pages` pages, alternating between the nine kinds. */
 Samples mixOnPages(int pages, int perPage);
 
-/** The pages that `count` items take. */
+/** The number of pages for `count` items. */
 int pagesFor(int count);
 
-/** What a grand staff, line, tablature, tie or triplet spans from its position (scene units). */
+/** The extent of a grand staff, line, tablature, tie or triplet from its position (scene units). */
 QPoint extentOf(Kind kind);
 
 /** The symbol id of the glyphs. */
 inline constexpr int glyphId = 19;
 
-/** What texts and text blocks say. */
+/** The text of texts and text blocks. */
 QString textOf(Kind kind);
 
-/** A record for each sample, as the host would send it. */
+/** One record for each sample, as a host would send it. */
 QStringList records(const Samples &samples);
 
 /** The host's message with the document. */

@@ -15,16 +15,16 @@
 
 namespace
 {
-/** What the rows are held against: the same with as many items. */
+/** The number of items in the baseline of these rows. */
 constexpr int fewItems = 100;
 
-/** More than are measured before, so that what a process does only once is not counted. */
+/** The measured steps, and the ones before, which exclude one-time work of the process. */
 constexpr int steps = 300;
 constexpr int stepsBefore = 30;
 
 /**
- * The program of its own with a document of glyphs, hidden, so that its repaints are not counted.
- * Its session is closed, so that no journal is written: a timer does that, and not an edit.
+ * tonquill-solo with a document of glyphs. It is hidden so that repaints are not counted, and its
+ * session is closed so that no journal is written, which a timer does and not an edit.
  */
 class SoloProgram
 {
@@ -40,7 +40,7 @@ public:
         scene().setPageNum(SampleDocument::pagesFor(count));
         edits().reset();
         m_solo.session().close();
-        QEvent activation(QEvent::WindowActivate); // lets items have the focus
+        QEvent activation(QEvent::WindowActivate); // lets items get the focus
         QCoreApplication::sendEvent(&scene(), &activation);
         handleEvents();
         QObject::connect(&edits(), &EditWatcher::documentChanged, &edits(),
@@ -56,7 +56,7 @@ public:
         return scene().itemAt(place, QTransform())->topLevelItem();
     }
 
-    /** Has all that an edit leads to done, up to what waits for the system. */
+    /** Handles everything that an edit causes, until all bytes are handed to the system. */
     void handleEvents()
     {
         do
@@ -80,7 +80,7 @@ public:
         QCoreApplication::sendEvent(paper, &event);
     }
 
-    /** Nanoseconds for one of `step`, of which each adds so many steps to the history. */
+    /** Nanoseconds per call of `step`, each of which adds `edits` steps to the history. */
     template <typename Step>
     double measure(const Step &step, int edits)
     {
@@ -116,7 +116,7 @@ double nudge(int count)
     return program.measure(toAndFro, 1);
 }
 
-/** Letters in the first of all items, in lines of a length. */
+/** Types letters into the bottommost item, a text block. */
 double typeLetter(int count)
 {
     SoloProgram program(count - 1);
@@ -137,7 +137,7 @@ double typeLetter(int count)
     return program.measure(toAndFro, 1);
 }
 
-/** An item is taken, dragged and let go, and the host hears of it. */
+/** Presses, drags and releases an item, which is sent to the host. */
 double finishDrag(int count)
 {
     SoloProgram program(count);

@@ -17,7 +17,7 @@ using SampleDocument::Samples;
 
 namespace
 {
-/** A kind of document, with what it is called in the names of rows, probes and files. */
+/** A kind of document, and its name in rows, probes and files. */
 struct Content
 {
     QString name;
@@ -27,7 +27,7 @@ struct Content
 const Content glyphs{QStringLiteral("glyphs"), SampleDocument::glyphs};
 const Content allKinds{QStringLiteral("all kinds"), SampleDocument::mix};
 
-/** One step back, with the items on the scene as an edit left them. */
+/** Undoes one step, with the items on the scene as after an edit. */
 double undo(int count)
 {
     Editor editor;
@@ -43,7 +43,7 @@ double undo(int count)
     });
 }
 
-/** What undoing is held against: the host's answer to its undo command. */
+/** The baseline of undo: the host's answer to the undo command. */
 double receive(int count)
 {
     Editor editor;
@@ -71,7 +71,7 @@ QString recordsFile(const Content &content, int count)
     return sampleFile(content, count, QStringLiteral("records"));
 }
 
-/** Writes the document as a file of the program and as a host's records, when first asked to. */
+/** Writes the document as a file of the program and as a host's records, on the first call. */
 void writeSampleFiles(const Content &content, int count)
 {
     if (QFile::exists(documentFile(content, count)))
@@ -94,12 +94,14 @@ void paintAndSettle(TonquillMainWin &window)
     QCoreApplication::processEvents();
 }
 
-/** A file is opened as the program does it that is started with one. Resident bytes at the end. */
+/**
+ * Opens a file like the program started with it. Returns the resident memory after it, in bytes.
+ */
 double openFile(const Content &content, int count)
 {
     const QString path = documentFile(content, count);
     if (!QFile::exists(path))
-        qFatal("there is no sample file"); // nobody is there to close the program's box
+        qFatal("there is no sample file"); // nobody would close the program's message box
     const QTemporaryDir folder;
     SoloWindow solo(folder.path());
     solo.show();
@@ -109,7 +111,7 @@ double openFile(const Content &content, int count)
     return Probe::residentBytes();
 }
 
-/** The editor's window, and in it what the file holds, built from records. */
+/** The editor's window with the contents of the file, built from records. */
 std::unique_ptr<TonquillMainWin> windowWithRecords(const Content &content, int count)
 {
     auto window = std::make_unique<TonquillMainWin>();
@@ -142,7 +144,7 @@ double printRecords(const Content &content, int count)
     return 0;
 }
 
-/** The program itself, from exec to exit. */
+/** Runs the program itself, from exec to exit. */
 double exportFile(const Content &content, int count)
 {
     writeSampleFiles(content, count);
@@ -152,7 +154,7 @@ double exportFile(const Content &content, int count)
                                        documentFile(content, count)});
 }
 
-/** What `measure` has to say of the probe, which finds its files written. */
+/** Applies `measure` to the probe, after writing its files. */
 Measure ofProbe(double (*measure)(const QString &probe, int count), const Content &content,
                 const QString &probe)
 {

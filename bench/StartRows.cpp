@@ -13,7 +13,7 @@ namespace
 const QString oursProbe = QStringLiteral("start");
 const QString floorProbe = QStringLiteral("start-floor");
 
-/** Knows whether the widget that it watches has been painted. */
+/** Records whether the watched widget has been painted. */
 class PaintWatcher : public QObject
 {
 public:

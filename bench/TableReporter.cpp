@@ -13,7 +13,7 @@
 
 namespace
 {
-/** A number in a column of the table, or nothing if there is none. */
+/** A number in a column of the table; empty if there is none. */
 std::string cell(double value, const char *format)
 {
     char text[32] = "";
@@ -22,7 +22,7 @@ std::string cell(double value, const char *format)
     return text;
 }
 
-/** Bytes, or milliseconds with as many digits as say something. */
+/** Bytes, or milliseconds with the significant digits. */
 std::string amount(double value, bool isBytes)
 {
     if (isBytes)

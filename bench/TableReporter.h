@@ -7,8 +7,8 @@
 #include <vector>
 
 /**
- * Puts both sides of each comparison into one row and prints the rows as a table, and as JSON
- * into a file if one is named. Of several runs the least counts: noise only ever adds.
+ * Prints a table with both sides of each comparison in one row, and writes it as JSON to a file if
+ * one is given. Of several runs the minimum counts, since noise only adds time.
  */
 class TableReporter : public benchmark::BenchmarkReporter
 {
@@ -30,7 +30,7 @@ private:
     /** The rows of one operation, by the number of items. */
     using Rows = std::map<int, Row>;
 
-    /** How much more `ours` is than with a tenth of the items; 0 if that was not measured. */
+    /** The ratio of `ours` to that with a tenth of the items; 0 if that was not measured. */
     static double growth(const Rows &rows, int count);
     /** Calls `visit` with every row, in the order of the comparisons. */
     template <typename Visitor>

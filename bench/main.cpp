@@ -26,8 +26,8 @@ void addRows()
 }
 
 /**
- * The two sides of a row are measured in turn, several times over, so that what else happens on
- * the machine meets both alike.
+ * Measures the two sides of a row alternately and several times, so that other load on the machine
+ * affects both equally.
  */
 void initializeBenchmarks(const QString &repetitions, const QString &only)
 {
@@ -44,7 +44,7 @@ void initializeBenchmarks(const QString &repetitions, const QString &only)
 
 int main(int argc, char *argv[])
 {
-    // The host's socket lives in the temporary folder; a real host must not be met.
+    // The host's socket is in the temporary folder; a private one avoids meeting a real host.
     const QTemporaryDir temporary(QStringLiteral("/tmp/tonquill-bench-XXXXXX"));
     qputenv("TMPDIR", temporary.path().toLocal8Bit());
     Probe::shareFolder(temporary.path());
@@ -68,7 +68,7 @@ int main(int argc, char *argv[])
         return Probe::run(parser.value(Probe::option()));
 
     TonquillMainWin window;
-    // Shown once, for its layout; hidden, so that its repaints are not counted with the rows.
+    // Shown once for its layout, then hidden so that repaints are not counted.
     window.show();
     QCoreApplication::processEvents();
     window.hide();

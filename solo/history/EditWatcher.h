@@ -37,7 +37,7 @@ public:
     /** The document after the last finished edit. */
     const DocumentSnapshot &document() const { return m_history.current(); }
 
-    /** The current document, including an unfinished edit; valid until the next change. */
+    /** The current document, including an unfinished edit. */
     const DocumentSnapshot &documentNow();
 
     /** Goes one step back or forward; false if there is none. */

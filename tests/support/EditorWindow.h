@@ -9,7 +9,7 @@
 #include <QCursor>
 #include <QtTest>
 
-/** The editor's window, shown and active as it is for a user, and what tests do with it. */
+/** The editor's window, shown and active, with helpers for tests. */
 struct EditorWindow
 {
     EditorWindow()
@@ -24,7 +24,7 @@ struct EditorWindow
     TonquillScene &scene() { return *window.scene; }
     TonquillView &view() { return *window.view(); }
 
-    /** The records of all items in the order of the document. */
+    /** The records of all items, in the order of the document. */
     QStringList records()
     {
         QStringList result;
@@ -33,7 +33,7 @@ struct EditorWindow
         return result;
     }
 
-    /** Builds a record and returns its item, which is the topmost of its kind. */
+    /** Builds a record and returns its item, the topmost of its kind; the scene owns it. */
     template <typename Item>
     Item *build(const QString &record)
     {
@@ -45,7 +45,7 @@ struct EditorWindow
         return nullptr;
     }
 
-    /** Puts the mouse cursor over the view and returns the scene point of an item placed there. */
+    /** Moves the mouse cursor over the view and returns the scene point of an item placed there. */
     QPointF putCursorOnPage()
     {
         const QPoint inView(150, 120);

@@ -5,7 +5,7 @@
 #include <csignal>
 #include <sys/resource.h>
 
-/** While one exists no file of this process can grow beyond a size, as on a full disk. */
+/** Limits the size of all files that this process writes, as on a full disk, while it exists. */
 class FullDisk
 {
 public:

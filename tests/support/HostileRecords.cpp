@@ -86,7 +86,7 @@ QByteArray HostileRecords::rubbish()
     return result;
 }
 
-/** One bit, byte, end or part is changed; very rarely a million blanks come in. */
+/** Changes one bit, byte, end or part; very rarely inserts a million spaces. */
 void HostileRecords::mutate(QByteArray &bytes)
 {
     const qsizetype place = below(bytes.size() + 1);

@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QRandomGenerator>
 
-/** Seeded chance that makes records and messages as no host should send them. */
+/** Generates random malformed records and messages from a seed. */
 class HostileRecords
 {
 public:
@@ -11,16 +11,16 @@ public:
         : m_chance(seed)
     {}
 
-    /** A record: sound, mutated, or rubbish. */
+    /** A record: valid, mutated or random. */
     QByteArray record();
 
-    /** What follows the host's prefix: a state, or a document of a few records. */
+    /** The text after the host's prefix: a state, or a document of a few records. */
     QByteArray payload();
 
-    /** A whole message, whose prefix may be damaged as well. */
+    /** A whole message, possibly with a damaged prefix. */
     QByteArray message();
 
-    /** True once in `times`. */
+    /** True once in `times` on average. */
     bool onceIn(int times) { return m_chance.bounded(times) == 0; }
 
     /** An offset for TonquillScene::constructItem(). */

@@ -10,10 +10,10 @@
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
 
-/** What tests ask of items that only the scene and Qt ask otherwise. */
+/** Queries of items that otherwise only the scene and Qt make. */
 namespace ItemProbe
 {
-/** The selection frame that a document item holds. */
+/** The selection frame of a document item. */
 inline SelectionFrame *frameOf(const QGraphicsItem &item)
 {
     return qgraphicsitem_cast<SelectionFrame *>(item.childItems().constFirst());
@@ -40,14 +40,14 @@ inline qsizetype waitingItems(const QGraphicsScene &scene)
     return items.size();
 }
 
-/** The scene's only document item; null if there is none or if there are several. */
+/** The scene's only document item; null if there is none or more than one. */
 inline QGraphicsItem *onlyItem(const QGraphicsScene &scene)
 {
     const QList<QGraphicsItem *> items = documentItems(scene);
     return items.size() == 1 ? items.constFirst() : nullptr;
 }
 
-/** An item's record, asked for by name as the scene does. */
+/** An item's record, called by name as the scene does. */
 inline QString recordOf(QGraphicsItem *item)
 {
     QString record;
@@ -56,7 +56,7 @@ inline QString recordOf(QGraphicsItem *item)
     return record;
 }
 
-/** What `area` of a scene, without its page outlines, looks like at `zoom` on a white screen. */
+/** A picture of `area` of a scene at `zoom`, on white and without page outlines. */
 inline QImage pictureOf(QGraphicsScene &scene, const QRectF &area, qreal zoom = 1.0)
 {
     QImage image((area.size() * zoom).toSize(), QImage::Format_RGB32);
@@ -78,7 +78,7 @@ inline QImage pictureOf(QGraphicsScene &scene, const QRectF &area, qreal zoom = 
     return image;
 }
 
-/** How many pixels of a picture have exactly this colour. */
+/** The number of pixels with exactly this colour. */
 inline qsizetype pixelsOf(const QImage &image, const QColor &color)
 {
     qsizetype count = 0;

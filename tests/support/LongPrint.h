@@ -10,11 +10,11 @@
 
 #include <functional>
 
-/** Counts how often it is printed, and takes its time over it the first time. */
+/** Counts how often it is printed; the first time is slow. */
 class SlowItem : public QGraphicsItem
 {
 public:
-    /** The progress dialog makes no estimate of a print from less than 50 milliseconds. */
+    /** Milliseconds; the progress dialog needs at least 50 to estimate the duration. */
     static constexpr int slowness = 60;
 
     explicit SlowItem(int &paints)
@@ -31,7 +31,7 @@ private:
     int &m_paints;
 };
 
-/** Counts the progress dialogs that the program shows, and acts on each. */
+/** Counts the progress dialogs that the program shows, and calls a function for each. */
 class ProgressWatch : public QObject
 {
 public:

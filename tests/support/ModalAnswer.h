@@ -13,8 +13,8 @@
 namespace ModalAnswer
 {
 /**
- * Acts on the dialog or menu of this class as soon as it is open, and closes it if `act` has left
- * it open. To be called before what opens it; nested ones are asked for from within `act`.
+ * Calls `act` with the dialog or menu of this class once it is open, and closes it if `act` has
+ * not. To be called before it is opened; for nested ones, from within `act`.
  */
 template <typename Window>
 void whenOpen(const std::function<void(Window &)> &act)
@@ -33,7 +33,7 @@ void whenOpen(const std::function<void(Window &)> &act)
     });
 }
 
-/** How many menus open while `act` runs; each is closed, for it would block. */
+/** The number of menus that open while `act` runs; each is closed, since it would block. */
 inline int menusDuring(const std::function<void()> &act)
 {
     int opened = 0;
@@ -49,14 +49,14 @@ inline int menusDuring(const std::function<void()> &act)
     return opened;
 }
 
-/** Chooses an entry of an open menu as the keyboard does. */
+/** Chooses an entry of an open menu with the keyboard. */
 inline void choose(QMenu &menu, int entry)
 {
     menu.setActiveAction(menu.actions().at(entry));
     QTest::keyClick(&menu, Qt::Key_Return);
 }
 
-/** Clicks the button of this object name. */
+/** Clicks the button with this object name. */
 inline void clickButton(const QWidget &dialog, const char *name)
 {
     QTest::mouseClick(dialog.findChild<QPushButton *>(name), Qt::LeftButton);

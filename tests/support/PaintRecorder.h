@@ -7,14 +7,14 @@
 #include <QPrinter>
 #include <QTextItem>
 
-/** A paint engine that draws nothing and remembers what it was given. */
+/** A paint engine that draws nothing and records its input. */
 class PaintRecorder : public QPaintEngine
 {
 public:
     struct Text
     {
         QString text;
-        QPointF position; ///< of its baseline, in the painter's coordinates
+        QPointF position; ///< start of the baseline, in the painter's coordinates
         QFont font;
     };
 
@@ -53,7 +53,7 @@ public:
     void drawPath(const QPainterPath &) override { pens.append(painter()->pen()); }
 };
 
-/** A device whose painter is recorded: a picture on screen, or with QPrinter, paper. */
+/** A device whose painter is recorded: an image for the screen, or a QPrinter for paper. */
 template <typename Device>
 class RecordingDevice : public Device
 {

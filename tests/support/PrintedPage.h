@@ -8,7 +8,7 @@
 
 #include <functional>
 
-/** What `paint` lays on paper: the bytes of a one-page PDF file, without its date. */
+/** The output of `paint` on paper: the bytes of a one-page PDF file, without its date. */
 inline QByteArray printedPage(const std::function<void(QPainter &)> &paint)
 {
     const QTemporaryDir folder;

@@ -5,17 +5,17 @@
 
 class QGraphicsScene;
 
-/** A pointer that acts on a scene through real scene events, at scene coordinates. */
+/** A pointer that sends real scene events to a scene, at scene coordinates. */
 class ScenePointer
 {
 public:
     explicit ScenePointer(QGraphicsScene &scene);
 
-    /** Presses `button`, which is held until it is released. */
+    /** Presses `button` and holds it until release(). */
     void press(QPointF scenePos, Qt::MouseButton button = Qt::LeftButton);
     void release(QPointF scenePos, Qt::MouseButton button = Qt::LeftButton);
     void moveTo(QPointF scenePos);
-    /** The second press of a double click, which is held until it is released. */
+    /** The second press of a double click; holds `button` until release(). */
     void pressTwice(QPointF scenePos, Qt::MouseButton button = Qt::LeftButton);
     void doubleClick(QPointF scenePos, Qt::MouseButton button = Qt::LeftButton);
     /** Moves there, presses and releases. */
@@ -24,7 +24,7 @@ public:
     void drag(QPointF from, QPointF to, Qt::MouseButton button = Qt::LeftButton);
 
     Qt::MouseButtons held() const { return m_held; }
-    /** Has exactly these buttons held from now on, as if the change had gone to another window. */
+    /** Sets the held buttons, as if the events had gone to another window. */
     void setHeld(Qt::MouseButtons buttons) { m_held = buttons; }
 
 private:

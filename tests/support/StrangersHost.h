@@ -9,8 +9,8 @@
 #include <unistd.h>
 
 /**
- * A process of another user's that listens where a host would, and keeps what it is sent. Only the
- * administrator can start one.
+ * A process of another user that listens like a host and stores what it receives. Only root can
+ * start one.
  */
 class StrangersHost
 {
@@ -21,7 +21,7 @@ public:
     {
         const QString folder = QDir::tempPath();
         const QFile::Permissions before = QFile::permissions(folder);
-        // Everybody may write here, as in the temporary folder of a machine.
+        // World-writable, like the system's temporary folder.
         QFile::setPermissions(folder,
                               before | QFile::WriteOther | QFile::ReadOther | QFile::ExeOther);
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
@@ -63,7 +63,7 @@ public:
         return QDir(QDir::tempPath()).filePath(HostMessages::serverName);
     }
 
-    /** All that came over the connection that ended last, once one has. */
+    /** Everything received over the last connection; waits for its end. */
     QByteArray received() { return nextLine(); }
 
 private:

@@ -2,7 +2,7 @@
 
 #include "DocumentContext.h"
 
-/** A program round a document for tests that need no window: A4 with a frame, and plain values. */
+/** A document context for tests without a window: A4 with a frame, and plain values. */
 class TestContext : public DocumentContext
 {
 public:

@@ -16,7 +16,7 @@ void TestHost::onNewConnection()
     m_socket = socket;
     connect(socket, &QLocalSocket::readyRead, this,
             [this, socket] { messages.append(QString::fromLatin1(socket->readAll())); });
-    // An editor that went may be noticed after the next one has come.
+    // The end of a connection may be noticed after the next one has begun.
     connect(socket, &QLocalSocket::disconnected, this, [this, socket] {
         if (m_socket == socket)
             m_socket = nullptr;

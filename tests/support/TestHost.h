@@ -4,7 +4,7 @@
 #include <QLocalSocket>
 #include <QStringList>
 
-/** A host in the test's own process: listens as the real one does and keeps what it is sent. */
+/** A host in the test's own process: listens like a real one and stores what it receives. */
 class TestHost : public QObject
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ public:
     /** Listens on the host's name, in the test's private temporary folder. */
     TestHost();
 
-    /** Writes bytes to the editor as they are. */
+    /** Writes bytes to the editor without a prefix. */
     void sendRaw(const QByteArray &bytes);
 
     /** Writes a message with the host's prefix, "tw2tonquill ". */
@@ -24,7 +24,7 @@ public:
 
     bool isConnected() const { return m_socket != nullptr; }
 
-    /** What came so far, one entry for each read. */
+    /** Everything received so far, one entry per read. */
     QStringList messages;
 
 private Q_SLOTS:

@@ -5,8 +5,8 @@
 #include <QtTest>
 
 /**
- * The main function of a test executable. The host's socket lives in the temporary folder, so each
- * test gets a folder of its own: tests run beside each other and beside a real host.
+ * The main function of a test executable. The host's socket is in the temporary folder, so each
+ * test gets a folder of its own: tests run in parallel and beside a real host.
  */
 #define TONQUILL_TEST_MAIN(TestClass)                                                              \
     int main(int argc, char *argv[])                                                               \
