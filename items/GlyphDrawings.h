@@ -23,9 +23,9 @@ QImage loadInk(const QString &path, const QColor &ink = Qt::black);
 void setFineDrawing(const QPixmap &pixmap, const QString &path);
 
 /**
- * Draws the finer drawing of `pixmap` in place of it, with its corner at `topLeft` in the painter's
- * coordinates. Returns false and draws nothing if the pixmap itself suits the painter's device and
- * zoom, or has no finer drawing.
+ * Draws the finer drawing of `pixmap` instead of it, with its top-left corner at `topLeft` in the
+ * painter's coordinates. Returns false and draws nothing if the pixmap itself suits the painter's
+ * device and zoom, or has no finer drawing.
  */
 bool paint(QPainter &painter, const QPixmap &pixmap, QPointF topLeft);
 } // namespace GlyphDrawings

@@ -23,20 +23,20 @@ struct TextContent
 };
 
 /**
- * Everything about an item that is seen or acted on, apart from the item: what its line in a
- * document file holds. The host link's records lose things on purpose; states lose nothing.
+ * The complete state of an item, independent of the item: the contents of its line in a document
+ * file. Records of the host link intentionally lose information; states do not.
  *
- * A value of any structure with these members; copies share it:
+ * Holds a value of any structure with these members; copies share it:
  *
  *     QPointF position;                                     // scene units
- *     QList<QPointF> points() const;                        // what else lies somewhere, in the
- *                                                           // item's own coordinates
- *     std::optional<TextContent> content() const;           // nothing for an item without text
- *     QByteArray line() const;                              // of the file, UTF-8, without an end
- *     QGraphicsItem *build(const SymbolSource &) const;     // a new item, anywhere
+ *     QList<QPointF> points() const;                        // all other points, in item
+ *                                                           // coordinates
+ *     std::optional<TextContent> content() const;           // nullopt for an item without text
+ *     QByteArray line() const;                              // for the file, UTF-8, no line end
+ *     QGraphicsItem *build(const SymbolSource &) const;     // a new item, at any position
  *     bool operator==(const State &) const;
  *
- * Equal states have equal lines, so lines are also what states are compared and kept by.
+ * Equal states have equal lines, so lines are used to store and compare states.
  */
 class ItemState
 {

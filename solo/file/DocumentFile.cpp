@@ -49,8 +49,8 @@ bool hasText(const QByteArray &line)
 }
 
 /**
- * Why the document could not be opened again completely; empty if it could. Only texts can reach
- * the limits by hand, by pasting into them.
+ * Why the document could not be opened again completely; empty if it could. Users can only reach
+ * the limits with texts, by pasting into them.
  */
 QString problemOfReading(const LineList &items)
 {
