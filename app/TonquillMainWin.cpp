@@ -68,6 +68,7 @@ TonquillMainWin::TonquillMainWin(HostConnection connection, QWidget *parent)
     loadNotationFont();
     resize(826, 704);
     g_pMainWin = this;
+    DocumentContext::current = this;
     g_csINIPath = QCoreApplication::applicationDirPath();
     qCDebug(lcTonquill) << g_csINIPath;
     connect(&socket, SIGNAL(readyRead()), this, SLOT(onTWData()));
@@ -111,6 +112,8 @@ TonquillMainWin::~TonquillMainWin()
     // The view's last focus events must not reach a window that is being destroyed.
     if (g_pMainWin == this)
         g_pMainWin = nullptr;
+    if (DocumentContext::current == this)
+        DocumentContext::current = nullptr;
     scene->leaveContext();
     socket.disconnect(this);
     // Neither must the host's last message, which is handled when the connection ends.

@@ -16,6 +16,9 @@ struct Sheet
 class DocumentContext : public SymbolSource
 {
 public:
+    /** The context of scenes that are made without one: the main window while there is one. */
+    inline static DocumentContext *current = nullptr;
+
     /** The paper of a new document. */
     virtual Sheet sheet() const = 0;
 

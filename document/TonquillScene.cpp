@@ -39,7 +39,22 @@ public:
 private:
     int m_pages = 0;
 };
+
+NobodyAround &nobody()
+{
+    static NobodyAround one;
+    return one;
+}
+
+DocumentContext &currentContext()
+{
+    return DocumentContext::current ? *DocumentContext::current : nobody();
+}
 } // namespace
+
+TonquillScene::TonquillScene(QObject *parent)
+    : TonquillScene(currentContext(), parent)
+{}
 
 TonquillScene::TonquillScene(DocumentContext &context, QObject *parent)
     : QGraphicsScene(parent)
@@ -56,9 +71,8 @@ TonquillScene::TonquillScene(DocumentContext &context, QObject *parent)
 
 void TonquillScene::leaveContext()
 {
-    static NobodyAround nobody;
-    nobody.setPages(m_context->pages());
-    m_context = &nobody;
+    nobody().setPages(m_context->pages());
+    m_context = &nobody();
 }
 
 TonquillScene::~TonquillScene()

@@ -35,6 +35,9 @@ public:
 
     /** Lays the pages out on the context's paper and adds the first one. */
     explicit TonquillScene(DocumentContext &context, QObject *parent = nullptr);
+
+    /** The same with the current context. Without one the pages have no size. */
+    explicit TonquillScene(QObject *parent = nullptr);
     ~TonquillScene() override;
 
     /** Detaches the context; to be called before it is destroyed, if the scene lives longer. */

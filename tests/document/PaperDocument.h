@@ -40,6 +40,6 @@ private:
         window.sharedPrinter().setPageSize(QPageSize(paper));
         window.sharedPrinter().setPageMargins(marginInches, QPageLayout::Inch);
         window.pageCount = 0;
-        return std::make_unique<TonquillScene>(window);
+        return std::make_unique<TonquillScene>();
     }
 };

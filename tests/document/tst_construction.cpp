@@ -144,7 +144,7 @@ void ConstructionTest::atTheCursorTheRecordedPositionIsIgnored()
 
 void ConstructionTest::withoutAViewTheCursorIsAtTheOrigin()
 {
-    TonquillScene scene(*g_pMainWin);
+    TonquillScene scene;
     scene.constructItem("tonquill_timesig 10 -3 12 8\n", false, -65535);
     QCOMPARE(ItemProbe::onlyItem(scene)->scenePos(), QPointF(0, 0));
 }
