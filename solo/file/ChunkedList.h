@@ -217,7 +217,7 @@ private:
     struct Node;
     using Tree = std::shared_ptr<Node>;
 
-    static constexpr qsizetype largestChunk = 32;
+    static constexpr qsizetype largestChunk = 64;
 
     /** A chunk of values, or two trees whose heights differ by at most one. */
     struct Node

@@ -90,18 +90,18 @@ void LineListTest::aCopyKeepsItsValues()
     QCOMPARE(list[500], QByteArray("new"));
 }
 
-/** 10,000 lines in chunks of at most 32 each: a change costs the sharing of its own chunk. */
+/** 10,000 lines in chunks of at most 64 each: a change costs the sharing of its own chunk. */
 void LineListTest::copiesShareWhatWasNotChanged()
 {
     LineList list = numbers(10'000);
     const LineList before = list;
     QCOMPARE(sharedValues(list, before), 10'000);
     list.set(5'000, "changed");
-    QVERIFY(sharedValues(list, before) >= 10'000 - 32);
+    QVERIFY(sharedValues(list, before) >= 10'000 - 64);
     QVERIFY(sharedValues(list, before) < 10'000);
     // What lies before an inserted line keeps its index as well.
     list.insert(9'000, "new");
-    QVERIFY(sharedValues(list, before) >= 9'000 - 2 * 32);
+    QVERIFY(sharedValues(list, before) >= 9'000 - 2 * 64);
 }
 
 void LineListTest::whatBecomesAnotherSharesWithWhatItWas()
@@ -113,11 +113,11 @@ void LineListTest::whatBecomesAnotherSharesWithWhatItWas()
     plain[8'000] = "changed";
     list.become(plain);
     QCOMPARE(list.toList(), plain);
-    QVERIFY(sharedValues(list, before) >= 10'000 - 2 * 32);
+    QVERIFY(sharedValues(list, before) >= 10'000 - 2 * 64);
     plain.remove(9'000, 10);
     list.become(plain);
     QCOMPARE(list.toList(), plain);
-    QVERIFY(sharedValues(list, before) >= 9'000 - 3 * 32);
+    QVERIFY(sharedValues(list, before) >= 9'000 - 3 * 64);
     list.become({});
     QVERIFY(list.isEmpty());
 }
